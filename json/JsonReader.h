@@ -1,0 +1,13 @@
+// JSON text to variants.
+#pragma once
+
+#include <QByteArray>
+#include <QVariant>
+
+#include <optional>
+
+/// The value that `json` holds: any JSON value at the top level. Integers without fraction or
+/// exponent become qlonglong, or qulonglong where they need it, other numbers double, null an
+/// invalid variant; of equal keys the last counts. Nothing when the text is no JSON, has bytes
+/// after the value, holds a number beyond the range of a double or is nested deeper than 512.
+std::optional<QVariant> parseJson(const QByteArray &json);

@@ -1,0 +1,100 @@
+#include "json/JsonWriter.h"
+
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
+
+#include <cmath>
+
+namespace {
+
+using Writer = rapidjson::Writer<rapidjson::StringBuffer>;
+
+bool writeRaw(Writer &writer, const QByteArray &json, rapidjson::Type type)
+{
+    return writer.RawValue(json.constData(), size_t(json.size()), type);
+}
+
+bool writeDouble(Writer &writer, double number)
+{
+    if (!std::isfinite(number))
+        return false;
+    QByteArray digits = QByteArray::number(number, 'g', 20);
+    if (!digits.contains('.') && !digits.contains('e'))
+        digits += ".0";
+    return writeRaw(writer, digits, rapidjson::kNumberType);
+}
+
+// The library's own escapes stop at half a surrogate pair; a text goes out as it is, unit by unit.
+bool writeText(Writer &writer, const QString &text)
+{
+    static const char hexDigits[] = "0123456789abcdef";
+    QByteArray json;
+    json.reserve(text.size() + 2);
+    json += '"';
+    for (const QChar character : text) {
+        const ushort unit = character.unicode();
+        if (unit >= 0x20 && unit < 0x7f) {
+            if (unit == '"' || unit == '\\')
+                json += '\\';
+            json += char(unit);
+        } else {
+            json += "\\u";
+            for (int shift = 12; shift >= 0; shift -= 4)
+                json += hexDigits[(unit >> shift) & 0xf];
+        }
+    }
+    json += '"';
+    return writeRaw(writer, json, rapidjson::kStringType);
+}
+
+bool writeValue(Writer &writer, const QVariant &value)
+{
+    switch (int(value.type())) {
+    case QVariant::Invalid:
+        return writer.Null();
+    case QVariant::Bool:
+        return writer.Bool(value.toBool());
+    case QVariant::Int:
+    case QVariant::LongLong:
+        return writer.Int64(value.toLongLong());
+    case QVariant::UInt:
+    case QVariant::ULongLong:
+        return writer.Uint64(value.toULongLong());
+    case QVariant::Double:
+    case QMetaType::Float:
+        return writeDouble(writer, value.toDouble());
+    case QVariant::List: {
+        const QVariantList list = value.toList();
+        writer.StartArray();
+        for (const QVariant &element : list) {
+            if (!writeValue(writer, element))
+                return false;
+        }
+        return writer.EndArray();
+    }
+    case QVariant::Map: {
+        const QVariantMap map = value.toMap();
+        writer.StartObject();
+        for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
+            const QByteArray key = entry.key().toUtf8();
+            writer.Key(key.constData(), rapidjson::SizeType(key.size()));
+            if (!writeValue(writer, entry.value()))
+                return false;
+        }
+        return writer.EndObject();
+    }
+    default:
+        return writeText(writer, value.toString());
+    }
+}
+
+} // namespace
+
+std::optional<QByteArray> jsonText(const QVariant &value)
+{
+    rapidjson::StringBuffer buffer;
+    Writer writer(buffer);
+    if (!writeValue(writer, value))
+        return std::nullopt;
+    return QByteArray(buffer.GetString(), int(buffer.GetSize()));
+}
