@@ -1,0 +1,95 @@
+#include "locale/CTranslationHandler.h"
+
+#include "json/JsonReader.h"
+
+#include <QDebug>
+#include <QFile>
+
+namespace {
+
+QString &instanceRoot()
+{
+    static QString root = QStringLiteral("/var/www/zel_tavrolink_gui");
+    return root;
+}
+
+} // namespace
+
+CTranslationHandler::CTranslationHandler(const QString &guiRoot)
+    : guiRoot(guiRoot)
+{
+}
+
+CTranslationHandler &CTranslationHandler::instance()
+{
+    static auto *const handler = new CTranslationHandler(instanceRoot());
+    return *handler;
+}
+
+void CTranslationHandler::setInstanceRoot(const QString &guiRoot)
+{
+    instanceRoot() = guiRoot;
+}
+
+bool CTranslationHandler::loadJsonMap(const QString &path, QVariantMap &target)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    QByteArray json = file.readAll();
+    const int end = json.indexOf('\0');
+    if (end >= 0)
+        json.truncate(end);
+    const QVariant value = parseJson(json).value_or(QVariant());
+    if (value.type() != QVariant::Map)
+        return false;
+    target = value.toMap();
+    return true;
+}
+
+bool CTranslationHandler::loadTranslationMap(const QString &language)
+{
+    const QString path = QStringLiteral("%1/locales/%2/translation.json").arg(guiRoot, language);
+    QVariantMap table;
+    if (!loadJsonMap(path, table)) {
+        qDebug() << "CTranslationHandler::loadTranslationMap => Loading translation map for"
+                 << language << "failed" << path;
+        return false;
+    }
+    // The web interface writes "DD.MM.YYYY", the toolkit "dd.MM.yyyy".
+    const QString key = QStringLiteral("dateformat");
+    QString format;
+    if (table.value(key).type() == QVariant::String)
+        format = table.value(key).toString();
+    format.replace(QLatin1Char('D'), QLatin1Char('d')).replace(QLatin1Char('Y'), QLatin1Char('y'));
+    table.insert(key, format);
+    translationMaps.insert(language, table);
+    return true;
+}
+
+QVariantMap CTranslationHandler::translationMap(const QString &language)
+{
+    if (!translationMaps.contains(language) && !loadTranslationMap(language))
+        return {};
+    return translationMaps.value(language);
+}
+
+bool CTranslationHandler::loadDatabaseToGuiMap()
+{
+    return loadJsonMap(
+        QStringLiteral("%1/locales/database_to_gui.json").arg(guiRoot), databaseToGui);
+}
+
+QVariantMap CTranslationHandler::databaseToGuiMap()
+{
+    if (databaseToGui.isEmpty() && !loadDatabaseToGuiMap())
+        return {};
+    return databaseToGui;
+}
+
+QString translate(const QString &key)
+{
+    const QVariantMap table = CTranslationHandler::instance().translationMap(QStringLiteral("en"));
+    const QString text = table.value(key).toString();
+    return text.isEmpty() ? key : text;
+}
