@@ -1,0 +1,12 @@
+// Where the device keeps what the console reads and runs.
+#pragma once
+
+#include <QString>
+
+/// The three fixed paths of the device. The product uses the defaults and nothing outside the
+/// program can change them; the demo and the tests run the same code on paths of their own.
+struct DevicePaths {
+    QString settingsScript = QStringLiteral("/var/www/zel_tavrolink_gui/scripts/settings.js");
+    QString webRoot = QStringLiteral("/var/www/zel_tavrolink_gui"); ///< no trailing slash
+    QString backendTool = QStringLiteral("/var/www/backend/DBusController");
+};

@@ -1,0 +1,16 @@
+#include "menu/ScreenIndex.h"
+
+#include <QScriptValueIterator>
+
+ScreenIndex::ScreenIndex(const QScriptValue &settings, const PropertyNames &names)
+{
+    QScriptValueIterator entry(settings);
+    while (entry.hasNext()) {
+        entry.next();
+        const QScriptValue screen = entry.value();
+        const QScriptValue css = screen.property(names.css);
+        if (css.isValid() && !firstByCss.contains(css.toString()))
+            firstByCss.insert(css.toString(), size());
+        screens.push_back(screen);
+    }
+}

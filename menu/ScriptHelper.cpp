@@ -1,0 +1,47 @@
+#include "menu/ScriptHelper.h"
+
+#include <QDebug>
+#include <QFile>
+#include <QScriptValueIterator>
+#include <QTextStream>
+
+namespace {
+
+QString readText(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return QTextStream(&file).readAll();
+}
+
+void warnOf(const QScriptValue &error)
+{
+    QScriptValueIterator property(error);
+    while (property.hasNext()) {
+        property.next();
+        qWarning() << "scriptValues.isError())" << property.name() << property.value().toString();
+    }
+}
+
+} // namespace
+
+ScriptHelper::ScriptHelper(const DevicePaths &paths)
+    : paths(paths)
+{
+}
+
+QScriptValue ScriptHelper::load()
+{
+    const QString script = readText(paths.settingsScript);
+    // The script hangs functions on this object of the web interface.
+    engine.evaluate(QStringLiteral("var datatransferLogbookHandler ={} "));
+    const QScriptValue result = engine.evaluate(script, paths.settingsScript);
+    if (result.isError()) {
+        warnOf(result);
+        return result;
+    }
+    const QScriptValue definition = engine.globalObject().property(QStringLiteral("Settings"));
+    structureVersion = definition.property(QStringLiteral("setupStructureVersion")).toString();
+    return definition.property(QStringLiteral("settings"));
+}

@@ -1,0 +1,54 @@
+// The script engine with the menu definition, and the calls of the backend tool.
+#pragma once
+
+#include "menu/DevicePaths.h"
+
+#include <QObject>
+#include <QScriptEngine>
+#include <QScriptValue>
+#include <QStringList>
+#include <QVariantList>
+
+/// Evaluates the web interface's settings script and runs the backend tool. The engine lives as
+/// long as the helper; every script value handed out belongs to it.
+class ScriptHelper : public QObject {
+public:
+    explicit ScriptHelper(const DevicePaths &paths = {});
+
+    /// Evaluates the settings script and returns the `settings` member of its global `Settings`.
+    /// A script that fails gives its error object, after warnings that tell the error's properties;
+    /// a file that cannot be read counts as an empty script, which gives an invalid value.
+    QScriptValue load();
+
+    /// The version of the menu definition: "/" until a script was loaded without error.
+    const QString &setupStructureVersion() const { return structureVersion; }
+
+    QScriptEngine &scriptEngine() { return engine; }
+
+    /// Runs the backend tool with `arguments` and returns what it printed on standard output. A
+    /// tool that is missing, crashes or hangs shows only as missing output.
+    QByteArray run(const QStringList &arguments) const;
+
+    /// The list that the tool prints for `arguments`, empty when it fails. Unless `force` is set,
+    /// the arguments of the read before are answered from memory without running the tool.
+    QVariantList read(const QStringList &arguments, bool force);
+
+    /// Appends the JSON text of `values` to `arguments` and runs the tool with them. True when the
+    /// first element of the answer is true. Values that JSON cannot hold are a failed write: the
+    /// tool is not run and `arguments` stays as it is.
+    bool write(QStringList &arguments, const QVariantList &values);
+
+    /// The elements of a JSON array. Any other JSON value gives an empty list, text that is no JSON
+    /// an empty list and a debug message.
+    static QVariantList byteArray2VariantList(const QByteArray &bytes);
+
+    /// `values` as the text of a JSON array in plain ASCII; a null text when JSON cannot hold them.
+    static QString variantListToJson(const QVariantList &values);
+
+private:
+    QString structureVersion = QStringLiteral("/");
+    QStringList lastArguments;
+    QVariantList lastResult;
+    QScriptEngine engine;
+    const DevicePaths paths;
+};

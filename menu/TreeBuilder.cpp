@@ -1,0 +1,127 @@
+#include "menu/TreeBuilder.h"
+
+#include <QDebug>
+#include <QScriptValueIterator>
+
+namespace {
+
+constexpr int maximumItems = 200000;
+constexpr int maximumLevels = 1000;
+
+class TreeBuilder {
+public:
+    TreeBuilder(
+        const ScreenIndex &screens, const RepeatCounts &counts, const TreeViewItemHandler &handler)
+        : screens(screens)
+        , counts(counts)
+        , handler(handler)
+        , names(handler.names())
+        , isOpen(size_t(screens.size()), false)
+    {
+    }
+
+    std::unique_ptr<TreeViewItem> build(const QScriptValue &rootDefinition)
+    {
+        auto root = std::make_unique<TreeViewItem>(rootDefinition, QScriptValue(), nullptr, -1, 0);
+        for (int number = 0; number < screens.size(); ++number) {
+            if (screens.at(number).strictlyEquals(rootDefinition)) {
+                isOpen[size_t(number)] = true;
+                break;
+            }
+        }
+        expand(*root, -1);
+        return root;
+    }
+
+private:
+    void expand(TreeViewItem &item, int index)
+    {
+        const QScriptValue entries = item.definition.property(names.screens);
+        if (!entries.isValid())
+            return;
+        const int repetitions = repetitionsOf(item);
+        if (repetitions > 0 && entries.property(names.length).toInt32() == 0)
+            addRepeatedScreen(item, repetitions);
+        else
+            addEntries(item, entries, index);
+    }
+
+    int repetitionsOf(const TreeViewItem &item) const
+    {
+        if (handler.isMeterButton(item.definition))
+            return counts.meters;
+        if (handler.isCompartmentButton(item.definition))
+            return counts.compartments;
+        return 0;
+    }
+
+    void addRepeatedScreen(TreeViewItem &item, int repetitions)
+    {
+        const QScriptValue css = item.definition.property(names.css);
+        if (!css.isValid())
+            return;
+        const int screen = screens.find(TreeViewItemHandler::repeatedScreenName(css.toString()));
+        for (int index = 0; screen >= 0 && index < repetitions; ++index)
+            addScreen(item, screen, item.definition, index);
+    }
+
+    void addEntries(TreeViewItem &item, const QScriptValue &entries, int index)
+    {
+        QScriptValueIterator entry(entries);
+        while (entry.hasNext()) {
+            entry.next();
+            const QScriptValue definition = entry.value();
+            const QScriptValue css = definition.property(names.css);
+            // The "length" of an array comes up as an entry too; it takes the way of a reference
+            // to the screen without a name, where the web interface looks for one.
+            if (!css.isValid() && entry.scriptName() != names.length) {
+                item.addChild(definition, QScriptValue(), index);
+                ++itemCount;
+                continue;
+            }
+            const int screen = screens.find(css.toString());
+            if (screen >= 0)
+                addScreen(item, screen, definition, index);
+        }
+    }
+
+    void addScreen(TreeViewItem &item, int screen, const QScriptValue &referringEntry, int index)
+    {
+        if (isOpen[size_t(screen)]) {
+            qWarning() << "Menu definition: dropped a screen below itself:"
+                       << screens.at(screen).property(names.css).toString();
+            return;
+        }
+        if (itemCount >= maximumItems || level >= maximumLevels) {
+            if (!warnedOfSize)
+                qWarning() << "Menu definition: too large, dropped what goes beyond" << maximumItems
+                           << "items or" << maximumLevels << "levels";
+            warnedOfSize = true;
+            return;
+        }
+        TreeViewItem &child = item.addChild(screens.at(screen), referringEntry, index);
+        ++itemCount;
+        ++level;
+        isOpen[size_t(screen)] = true;
+        expand(child, index);
+        isOpen[size_t(screen)] = false;
+        --level;
+    }
+
+    const ScreenIndex &screens;
+    const RepeatCounts counts;
+    const TreeViewItemHandler &handler;
+    const PropertyNames &names;
+    std::vector<bool> isOpen; ///< by screen: it is being expanded, or one below it is
+    int itemCount = 0;
+    int level = 0;
+    bool warnedOfSize = false;
+};
+
+} // namespace
+
+std::unique_ptr<TreeViewItem> buildTree(const QScriptValue &root, const ScreenIndex &screens,
+    const RepeatCounts &counts, const TreeViewItemHandler &handler)
+{
+    return TreeBuilder(screens, counts, handler).build(root);
+}

@@ -1,0 +1,144 @@
+// The menu tree: building it, its items' attributes, and the values behind them.
+#pragma once
+
+#include "menu/PropertyNames.h"
+#include "menu/ScriptHelper.h"
+#include "menu/TreeViewItem.h"
+
+#include <QMap>
+
+class ScreenIndex;
+
+/// Words of "inputType".
+enum InputKind {
+    SeparatorInput,
+    DropdownInput,
+    ButtonInput,
+    LabelInput,
+    SelectLabelInput,
+    EditInput,
+    BooleanInput,
+    SliderInput,
+    PlainInput
+};
+
+/// Words of "type".
+enum TypeKind { CompartmentStatusType, CompartmentSetupType, ButtonType, EditType, StatusType };
+
+/// Kinds of field interfaces; a diagnose screen has the number of the interfaces it shows.
+enum InterfaceKind {
+    NoInterface,
+    SpdInterface,
+    IoInterface,
+    WetlegInterface,
+    TagInterface,
+    AsInterface,
+    LevelInterface
+};
+
+/// Owns the script with the menu definition and answers every question about the menu. The
+/// operations on values run the backend tool and block until it has answered; a tool that fails
+/// looks like an empty answer.
+class TreeViewItemHandler : public QObject {
+public:
+    explicit TreeViewItemHandler(const DevicePaths &paths = {});
+
+    /// Loads the menu definition, asks the backend for the numbers of compartments and meters, and
+    /// builds the tree. The tree must not outlive the handler. A definition that is missing or
+    /// broken gives a root without children.
+    std::unique_ptr<TreeViewItem> build();
+
+    /// Numbers the visible items from `item` down, depth first through expanded items: stores each
+    /// in `items` under the value of `counter` and advances it. The root gets no number.
+    void numberVisibleItems(
+        TreeViewItem &item, QMap<int, TreeViewItem *> &items, int &counter) const;
+
+    ScriptHelper &scriptHelper() { return script; }
+    const QString &setupStructureVersion() const { return script.setupStructureVersion(); }
+    const PropertyNames &names() const { return propertyNames; }
+    int accessLevel() const { return currentAccessLevel; }
+
+    /// \name Attributes, read from the item's definition
+    /// A missing attribute reads as 0, false or an empty text. Positions in lists count from 0.
+    /// @{
+    QString labelKey(const TreeViewItem &item) const;
+    bool hasReadBinding(const TreeViewItem &item) const;
+    QString readBinding(const TreeViewItem &item) const;
+    bool hasWriteBinding(const TreeViewItem &item) const;
+    QString writeBinding(const TreeViewItem &item) const;
+    bool isInputKind(const TreeViewItem &item, int kind) const;
+    bool isType(const TreeViewItem &item, int kind) const;
+    bool isEditable(const TreeViewItem &item) const;
+    bool isVisible(const TreeViewItem &item) const;
+    bool isExcluded(const TreeViewItem &item) const;
+    bool isCompartmentButton(const QScriptValue &definition) const;
+    bool isMeterButton(const QScriptValue &definition) const;
+    /// The css text of the screen that is repeated below the screen with `css`.
+    static QString repeatedScreenName(const QString &css);
+    bool isInteger(const TreeViewItem &item) const;
+    int minimum(const TreeViewItem &item) const;
+    int maximum(const TreeViewItem &item) const;
+    int step(const TreeViewItem &item) const;
+    /// The number of "values".
+    int valueCount(const TreeViewItem &item) const;
+    /// The entry of "values" at `i`; an empty text when there is none.
+    QVariant valueAt(const TreeViewItem &item, int i) const;
+    /// The length of the longest entry of "values", in characters.
+    int widestValue(const TreeViewItem &item) const;
+    bool hasDatabaseValues(const TreeViewItem &item) const;
+    /// The entry of "dbValues" at `i`; the integer 0 when there is none.
+    QVariant databaseValueAt(const TreeViewItem &item, int i) const;
+    /// The first position below the number of "values" whose entry of "dbValues" has the text of
+    /// `value`; -1 when none has.
+    int indexOfDatabaseValue(const TreeViewItem &item, const QVariant &value) const;
+    /// The diagnose screen that the item opens, NoInterface when it opens none.
+    int diagnoseScreen(const TreeViewItem &item) const;
+    /// @}
+
+    /// \name Values in the backend
+    /// @{
+    /// Asks for the seal's state and sets the access level by it: 6 while the seal is open, else 4.
+    void updateAccessLevel();
+
+    /// Updates the access level and reads the values of every open item below `root` anew, but for
+    /// the item that was opened since the last refresh.
+    void refreshValues(TreeViewItem &root);
+
+    /// What the backend tells of the interfaces of `kind`; `tagNumber` counts for TAG only. Empty,
+    /// without running the tool, for an unknown kind.
+    QVariantList interfaceList(int kind, int tagNumber);
+
+    /// Switches the interfaces of `kind` on or off. True whatever the tool answers; false, without
+    /// running it, for an unknown kind.
+    bool enableInterface(int kind, bool enabled);
+
+    /// Opens or closes `target`, which is searched from `node` down through open items; with
+    /// `force`, closes everything from `node` down. Closing closes all below, opening reads the
+    /// values of the children. True when the target was found and opened.
+    bool toggleItem(TreeViewItem &node, const TreeViewItem *target, bool force);
+
+    /// Writes the values of the whole group that `item` belongs to. False when the tool refuses
+    /// them, and without running it when the group has no write binding.
+    bool writeItemValues(const TreeViewItem &item);
+
+    /// The values of the group's value-bearing children, in their order.
+    QVariantList collectItemValues(const TreeViewItem &group) const;
+
+    /// Gives the group's value-bearing children `values`, in their order; children beyond the last
+    /// value keep theirs.
+    void assignItemValues(TreeViewItem &group, const QVariantList &values) const;
+    /// @}
+
+private:
+    QVariant lookUpCount(const ScreenIndex &screens, const QString &css, const QString &fieldKey);
+    bool isValueBearing(const TreeViewItem &item) const;
+    void readValues(TreeViewItem &item);
+    void readOpenItems(TreeViewItem &item);
+
+    int currentAccessLevel = 0;
+    int compartmentCount = -1;
+    int meterCount = -1;
+    ScriptHelper script;
+    const PropertyNames propertyNames;
+    const TreeViewItem *itemJustRead = nullptr;
+};
