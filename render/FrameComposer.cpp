@@ -1,0 +1,48 @@
+#include "render/FrameComposer.h"
+
+#include "render/Bars.h"
+#include "render/MenuView.h"
+
+namespace {
+
+QString closed(const QString &line, int width)
+{
+    return cutToWidth(line, width) + Escape::eraseToEndOfLine + Escape::reset;
+}
+
+} // namespace
+
+Frame composeFrame(const ViewState &state, const QString &title)
+{
+    const int rows = state.termRows;
+    const int columns = state.termColumns;
+    const int top = firstShownLine(state.selectedIndex, rows);
+    const bool hasBox = state.currentView != MenuView && !state.overlayLines.isEmpty();
+    const int boxHeight = state.overlayLines.size();
+    const int boxWidth = state.overlayLines.value(0).size();
+    const int boxTop = rows / 2 - boxHeight / 2;
+
+    Frame frame;
+    frame.insert(0, cutToWidth(headerBar(), columns));
+    for (int row = 1; row <= rows - 2; ++row) {
+        const int line = top + row - 1;
+        // What the box pushes out of the row comes back where a box line is short.
+        QString text = state.menuLines.value(line).left(columns + boxWidth);
+        if (hasBox && row >= boxTop && row <= rows / 2 + boxHeight / 2) {
+            replaceText(text, columns / 2 - boxWidth / 2, boxWidth,
+                Escape::reset + state.overlayLines.value(row - boxTop));
+        }
+        if (line == state.selectedIndex && state.currentView != StartView)
+            text.prepend(Escape::highlight);
+        frame.insert(row, closed(text, columns));
+    }
+    frame.insert(rows - 1, cutToWidth(title, columns));
+    return frame;
+}
+
+CursorPosition editPosition(const ViewState &state, int fieldLength)
+{
+    const qint64 column = qint64(state.termColumns / 2) + state.dialogValue - fieldLength / 2 + 1;
+    return { qBound(1, state.termRows / 2 + 1, state.termRows),
+        int(qBound<qint64>(1, column, state.termColumns)) };
+}

@@ -1,0 +1,122 @@
+#include "render/MenuView.h"
+
+#include "locale/CTranslationHandler.h"
+#include "render/ForeignText.h"
+
+namespace {
+
+constexpr int indentation = 4; // columns per level
+
+const QLatin1String i18nPrefix("i18n_");
+const QLatin1String latitudePrefix("i18n_gps_lat_");
+const QLatin1String longitudePrefix("i18n_gps_lon_");
+const QLatin1String coordinateSeparator("__sep__");
+const QLatin1String dateTimePrefix("i18n_datetime_");
+
+// The backend marks what is to be translated and what is a position or a date.
+QString resolveMarks(QString text)
+{
+    if (text.startsWith(latitudePrefix))
+        return text.remove(latitudePrefix).remove(longitudePrefix).remove(coordinateSeparator);
+    if (text.startsWith(dateTimePrefix))
+        return translate(text.remove(dateTimePrefix));
+    if (text.startsWith(i18nPrefix))
+        return translate(text.remove(i18nPrefix));
+    return text;
+}
+
+} // namespace
+
+MenuRenderer::MenuRenderer(const TreeViewItemHandler &handler, int termColumns, QString &statusText)
+    : handler(handler)
+    , termColumns(termColumns)
+    , statusText(statusText)
+{
+}
+
+void MenuRenderer::renderItemLines(
+    const TreeViewItem &item, int &line, Frame &target, int depth, bool isFirstChild)
+{
+    const bool isRoot = !item.parentItem;
+    if (!isRoot) {
+        if (!handler.isVisible(item))
+            return;
+        target.insert(target.cend(), line++, itemLine(item, depth, isFirstChild));
+        isFirstChild = true;
+    }
+    if (!isRoot && !item.expanded)
+        return;
+    for (const auto &child : item.children) {
+        renderItemLines(*child, line, target, depth + 1, isFirstChild);
+        isFirstChild = false;
+    }
+}
+
+QString MenuRenderer::itemLine(const TreeViewItem &item, int depth, bool isFirstChild)
+{
+    QString line;
+    if (depth >= 2 && isFirstChild)
+        insertText(line, (depth - 2) * indentation, QStringLiteral(" +"));
+    insertText(line, qMax(depth - 1, 0) * indentation, marker(item));
+    insertText(line, depth * indentation, label(item));
+    insertText(line, termColumns - termColumns / 3, printable(valueText(item)));
+    return line;
+}
+
+QString MenuRenderer::marker(const TreeViewItem &item) const
+{
+    if (!item.children.empty())
+        return QStringLiteral("->");
+    if (handler.isEditable(item))
+        return QStringLiteral(" *");
+    if (handler.isInputKind(item, ButtonInput))
+        return QStringLiteral(" #");
+    if (handler.isInputKind(item, SeparatorInput))
+        return QStringLiteral("  ");
+    if (handler.diagnoseScreen(item) != NoInterface)
+        return QStringLiteral(" $");
+    return QStringLiteral(" -");
+}
+
+QString MenuRenderer::label(const TreeViewItem &item) const
+{
+    QString text = printable(translate(handler.labelKey(item)));
+    if (handler.isCompartmentButton(item.referringEntry)
+        || handler.isMeterButton(item.referringEntry))
+        text += QLatin1Char(' ') + QString::number(item.position + 1);
+    return text;
+}
+
+QString MenuRenderer::valueText(const TreeViewItem &item)
+{
+    QString text = item.value.toString();
+    if (text.isEmpty())
+        return text;
+    const bool isList =
+        handler.isInputKind(item, DropdownInput) || handler.isInputKind(item, SelectLabelInput);
+    return isList && !handler.isInteger(item) ? listText(item) : resolveMarks(text);
+}
+
+QString MenuRenderer::listText(const TreeViewItem &item)
+{
+    int index = 0;
+    if (handler.hasDatabaseValues(item)) {
+        index = handler.indexOfDatabaseValue(item, item.value);
+        statusText = QStringLiteral("hasDBValues: ") + QString::number(index);
+    } else {
+        index = item.value.toInt();
+        statusText = QStringLiteral("!!hasDBValues");
+    }
+    return translate(handler.valueAt(item, index).toString());
+}
+
+int firstShownLine(int selectedIndex, int termRows)
+{
+    const int pageLines = termRows - 2;
+    if (pageLines <= 1)
+        return qMax(selectedIndex, 0);
+    if (selectedIndex < pageLines)
+        return 0;
+    const int advance = pageLines - 1;
+    return ((selectedIndex - pageLines) / advance + 1) * advance;
+}
