@@ -1,0 +1,42 @@
+#include "diagnose/ScreenLines.h"
+
+#include "render/ForeignText.h"
+
+namespace {
+
+constexpr int softwareLine = 2;
+constexpr int hardwareLine = 3;
+constexpr int messageLine = 2;
+
+int boxWidth(const Frame &frame)
+{
+    return frame.value(0).size();
+}
+
+} // namespace
+
+void placeLeft(Frame &frame, int line, const QString &text)
+{
+    placeCentred(frame, boxWidth(frame), line, printable(text), boxWidth(frame));
+}
+
+void placeMessage(Frame &frame, int line, const QString &text)
+{
+    placeCentred(frame, boxWidth(frame), line, printable(text), 0);
+}
+
+void placeLabelled(Frame &frame, int line, const char *label, const QVariant &value)
+{
+    placeLeft(frame, line, QLatin1String(label) + value.toString());
+}
+
+void placeVersions(Frame &frame, const QVariantList &interface)
+{
+    placeLabelled(frame, softwareLine, "SW Version: ", interface.value(0));
+    placeLabelled(frame, hardwareLine, "HW Version: ", interface.value(1));
+}
+
+void placeNotAvailable(Frame &frame)
+{
+    placeMessage(frame, messageLine, QStringLiteral("Not Available"));
+}

@@ -1,0 +1,21 @@
+// The lines that every diagnose screen is made of.
+#pragma once
+
+#include "render/Frame.h"
+
+#include <QVariant>
+
+/// Places `text` on `line`, from the first column inside the border.
+void placeLeft(Frame &frame, int line, const QString &text);
+
+/// Places `text` in the middle of `line`.
+void placeMessage(Frame &frame, int line, const QString &text);
+
+/// Places what the backend told, behind its label.
+void placeLabelled(Frame &frame, int line, const char *label, const QVariant &value);
+
+/// Places the versions of an interface's software and hardware on lines 2 and 3.
+void placeVersions(Frame &frame, const QVariantList &interface);
+
+/// Tells that the backend knows no such interface.
+void placeNotAvailable(Frame &frame);
