@@ -1,0 +1,6 @@
+// Where messages of the program go, so that none lands on the screen.
+#pragma once
+
+/// Sends all messages to standard error or, where that is a terminal, to the system log; a fatal
+/// one to standard error in any case.
+void installMessageLog();

@@ -1,0 +1,40 @@
+// When the terminal's change of size may interrupt the program.
+#pragma once
+
+#include <csignal>
+
+/// The handler of SIGWINCH draws. It must not come upon the program while that allocates memory or
+/// draws itself, so the signal is held back but while the program waits.
+namespace ResizeSignal {
+
+/// Holds SIGWINCH back until `open`. Returns the mask from before.
+sigset_t hold();
+
+/// Lets SIGWINCH through, one that was held back at once.
+void open();
+
+/// Holds SIGWINCH back for a scope.
+class Hold {
+public:
+    Hold();
+    ~Hold();
+    Hold(const Hold &) = delete;
+    Hold &operator=(const Hold &) = delete;
+
+private:
+    const sigset_t before;
+};
+
+/// Lets SIGWINCH through for a scope.
+class Window {
+public:
+    Window();
+    ~Window();
+    Window(const Window &) = delete;
+    Window &operator=(const Window &) = delete;
+
+private:
+    sigset_t before;
+};
+
+} // namespace ResizeSignal

@@ -1,0 +1,46 @@
+#include "app/TerminalMode.h"
+
+#include <atomic>
+
+#include <unistd.h>
+
+namespace {
+
+// What a signal handler finds when it interrupts the program anywhere.
+std::atomic<const termios *> saved(nullptr);
+std::atomic<const termios *> working(nullptr);
+
+void apply(const termios *attributes) noexcept
+{
+    if (attributes)
+        tcsetattr(STDIN_FILENO, TCSANOW, attributes);
+}
+
+} // namespace
+
+TerminalMode::TerminalMode()
+{
+    tcgetattr(STDIN_FILENO, &savedTermios);
+    workingTermios = savedTermios;
+    workingTermios.c_lflag &= ~tcflag_t(ICANON | ECHO);
+    saved = &savedTermios;
+    working = &workingTermios;
+    resume();
+}
+
+TerminalMode::~TerminalMode()
+{
+    restore();
+    working = nullptr;
+    saved = nullptr;
+}
+
+void TerminalMode::restore() noexcept
+{
+    apply(saved);
+}
+
+void TerminalMode::resume() noexcept
+{
+    apply(working);
+}
