@@ -1,0 +1,200 @@
+// What each key does in each view.
+#include "app/TerminalGui.h"
+
+#include "app/ResizeSignal.h"
+#include "render/Selection.h"
+#include "render/ValueCommit.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+bool isQuit(int key)
+{
+    return key == Qt::Key_Q || (key & 0xff) == 'q';
+}
+
+} // namespace
+
+void TerminalGui::processKeyEvent(Qt::Key key)
+{
+    const ResizeSignal::Hold hold;
+    state.requestedView = NoView;
+    switch (state.currentView) {
+    case StartView:
+        processStartKey(key);
+        break;
+    case MenuView:
+        processMenuKey(key);
+        break;
+    case EditView:
+        processEditKey(key);
+        break;
+    case DiagnoseView:
+        processDiagnoseKey(key);
+        break;
+    default:
+        break;
+    }
+    refreshView();
+}
+
+void TerminalGui::processStartKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Return:
+        return chooseStart();
+    case Qt::Key_Up:
+        return moveVertically(-1);
+    case Qt::Key_Down:
+        return moveVertically(+1);
+    default:
+        if (isQuit(key))
+            closeGui();
+    }
+}
+
+void TerminalGui::processMenuKey(int key)
+{
+    const int page = state.termRows - 2;
+    switch (key) {
+    case Qt::Key_Up:
+        return moveVertically(-1);
+    case Qt::Key_Down:
+        return moveVertically(+1);
+    case Qt::Key_PageUp:
+        return moveVertically(-page);
+    case Qt::Key_PageDown:
+        return moveVertically(+page);
+    case Qt::Key_Return:
+        return activateItem();
+    default:
+        if (isQuit(key))
+            closeGui();
+    }
+}
+
+void TerminalGui::processEditKey(int key)
+{
+    state.overlayLines.clear();
+    switch (key) {
+    case Qt::Key_Escape:
+        return dropEdit();
+    case Qt::Key_Backspace:
+        return removeCharacter();
+    case Qt::Key_Return:
+        return confirmEdit();
+    case Qt::Key_Left:
+        return moveHorizontally(-1);
+    case Qt::Key_Right:
+        return moveHorizontally(+1);
+    case Qt::Key_Up:
+        return moveVertically(-1);
+    case Qt::Key_Down:
+        return moveVertically(+1);
+    default:
+        return typeCharacter(key);
+    }
+}
+
+void TerminalGui::processDiagnoseKey(int key)
+{
+    state.overlayLines.clear();
+    switch (key) {
+    case Qt::Key_PageUp:
+        return moveVertically(-1);
+    case Qt::Key_PageDown:
+        return moveVertically(+1);
+    case Qt::Key_Escape:
+        return leaveDiagnose();
+    default:
+        break;
+    }
+}
+
+void TerminalGui::moveVertically(int delta)
+{
+    moveSelection(state, handler, false, delta);
+}
+
+void TerminalGui::moveHorizontally(int delta)
+{
+    moveSelection(state, handler, true, delta);
+}
+
+void TerminalGui::chooseStart()
+{
+    if (state.listIndex != 0) {
+        exitToShellChosen = true;
+        closeGui();
+        return;
+    }
+    state.forgetMenuLines();
+    state.requestedView = MenuView;
+}
+
+void TerminalGui::activateItem()
+{
+    const TreeViewItem *const item = state.selectedItem();
+    const int kind = item ? handler.diagnoseScreen(*item) : int(NoInterface);
+    if (item && handler.isEditable(*item)) {
+        state.requestedView = EditView;
+    } else if (kind != NoInterface) {
+        if (handler.enableInterface(kind, true))
+            state.requestedView = DiagnoseView;
+    } else {
+        toggleSelected();
+    }
+}
+
+void TerminalGui::toggleSelected()
+{
+    handler.toggleItem(*root, state.selectedItem(), false);
+    numberItems();
+    state.forgetMenuLines();
+}
+
+void TerminalGui::leaveDiagnose()
+{
+    state.requestedView = MenuView;
+    if (const TreeViewItem *const item = state.selectedItem())
+        handler.enableInterface(handler.diagnoseScreen(*item), false);
+}
+
+void TerminalGui::typeCharacter(int key)
+{
+    const bool isByte = key >= 0 && key <= 0xff;
+    if (!isByte || state.editBuffer.size() >= state.rangeLimit)
+        return;
+    state.editBuffer.insert(qBound(0, state.dialogValue, state.editBuffer.size()), QChar(key));
+    moveHorizontally(+1);
+}
+
+void TerminalGui::removeCharacter()
+{
+    moveHorizontally(-1);
+    if (state.dialogValue >= 0)
+        state.editBuffer.remove(state.dialogValue, 1);
+}
+
+void TerminalGui::confirmEdit()
+{
+    if (commitValue(state, handler, state.selectedIndex)
+        && !handler.writeItemValues(*state.selectedItem())) {
+        state.statusText = QStringLiteral("ERROR");
+        state.hasRefusedValue = true;
+        return;
+    }
+    state.hasRefusedValue = false;
+    state.forgetMenuLines();
+    state.requestedView = MenuView;
+}
+
+void TerminalGui::dropEdit()
+{
+    // A value that the backend refused must not go out with the next write of its group.
+    if (state.hasRefusedValue)
+        state.forgetMenuLines();
+    state.hasRefusedValue = false;
+    state.requestedView = MenuView;
+}

@@ -1,0 +1,88 @@
+#include "app/Session.h"
+
+#include "app/MessageLog.h"
+#include "app/ResizeSignal.h"
+#include "app/SignalHandlers.h"
+#include "app/TerminalGui.h"
+#include "app/TerminalReader.h"
+#include "backend/BackendTool.h"
+#include "locale/CTranslationHandler.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+
+#include <Version.h>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+constexpr int noSession = -1;
+constexpr int exitToShellStatus = 80;
+
+void print(const char *text)
+{
+    std::fputs(text, stdout);
+    std::fflush(stdout);
+}
+
+int printVersion()
+{
+    print(QByteArray("Tavrolink-Dravikon-Version: " + QByteArray(consoleVersion.data()) + '\n')
+              .constData());
+    return noSession;
+}
+
+int printUsage()
+{
+    print("\n"
+          "Dravikon usage:\n"
+          "==========================\n"
+          "    -h or when wrong parameter this usage\n"
+          "    --version version of this binary\n"
+          "\n");
+    return noSession;
+}
+
+int runConsole(const SessionOptions &options)
+{
+    BackendTool::setSignalMask(ResizeSignal::hold());
+    installRestoringHandlers();
+    CTranslationHandler::setInstanceRoot(options.paths.webRoot);
+    auto gui = std::make_unique<TerminalGui>(options.paths);
+    auto reader = std::make_unique<TerminalReader>(options.idleMs);
+    installSessionHandlers(*gui);
+    reader->init();
+    qRegisterMetaType<Qt::Key>("Qt::Key");
+    QObject::connect(
+        reader.get(), &TerminalReader::newKeyEvent, gui.get(), &TerminalGui::processKeyEvent);
+    QObject::connect(reader.get(), &TerminalReader::timeout, gui.get(), &TerminalGui::closeGui);
+    gui->initTerminal();
+    // A SIGINT from before the loop runs would be lost on it, and a resize must not come upon the
+    // loop while it sets itself up.
+    QTimer::singleShot(0, gui.get(), [] {
+        if (isSessionEnding())
+            QCoreApplication::quit();
+        ResizeSignal::open();
+    });
+    const int status = QCoreApplication::exec();
+    ResizeSignal::hold();
+    reader.reset();
+    const bool toShell = gui->exitToShell();
+    gui.reset();
+    concludeSession();
+    return toShell ? exitToShellStatus : status;
+}
+
+} // namespace
+
+int runSession(int &argc, char **argv, const SessionOptions &options)
+{
+    const QCoreApplication application(argc, argv);
+    installMessageLog();
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() < 2)
+        return runConsole(options);
+    return arguments.at(1) == QLatin1String("--version") ? printVersion() : printUsage();
+}

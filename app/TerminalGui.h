@@ -1,0 +1,80 @@
+// The conductor of the session: takes keys, asks the menu and the backend, draws.
+#pragma once
+
+#include "app/TerminalMode.h"
+#include "menu/TreeViewItemHandler.h"
+#include "render/Screen.h"
+#include "render/ViewState.h"
+
+#include <QObject>
+
+#include <memory>
+
+class TerminalGui : public QObject {
+    Q_OBJECT
+public:
+    /// Reads the window size and switches the terminal to single keys; draws nothing yet.
+    explicit TerminalGui(const DevicePaths &paths = {});
+
+    /// Restores the terminal and leaves it cleared.
+    ~TerminalGui() override;
+
+    /// Takes over the size of the terminal, 80 x 24 when it tells none.
+    void updateWindowSize();
+
+    /// Takes over a requested view and draws the current one.
+    void refreshView();
+
+public slots:
+    /// Clears the screen, asks for the backend's version and draws everything.
+    void initTerminal();
+
+    /// Does what a key is for in the current view, and redraws.
+    void processKeyEvent(Qt::Key key);
+
+    /// Calls `resizeTerminal` half a second later.
+    void prepareResize();
+
+    /// Takes over a new size of the terminal and draws everything.
+    void resizeTerminal();
+
+    /// Asks the backend tool for its version. Always false.
+    bool prepareTerminal();
+
+    /// True when the user asked for the local shell.
+    bool exitToShell();
+
+    /// Ends the session.
+    void closeGui();
+
+private:
+    void prepareView();
+    void openMenu();
+    void numberItems();
+    void drawMenu();
+    void renderMenu();
+    void buildOverlay(int line);
+    void buildDialog(const TreeViewItem &item);
+
+    void processStartKey(int key);
+    void processMenuKey(int key);
+    void processEditKey(int key);
+    void processDiagnoseKey(int key);
+    void moveVertically(int delta);
+    void moveHorizontally(int delta);
+    void activateItem();
+    void toggleSelected();
+    void typeCharacter(int key);
+    void removeCharacter();
+    void confirmEdit();
+    void dropEdit();
+    void leaveDiagnose();
+    void chooseStart();
+
+    TreeViewItemHandler handler;
+    std::unique_ptr<TreeViewItem> root; ///< null until the menu is first shown
+    ViewState state;
+    bool exitToShellChosen = false;
+    Screen screen;
+    TerminalMode mode;
+};
