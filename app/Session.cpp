@@ -21,16 +21,15 @@ namespace {
 constexpr int noSession = -1;
 constexpr int exitToShellStatus = 80;
 
-void print(const char *text)
+void print(const QByteArray &text)
 {
-    std::fputs(text, stdout);
+    std::fputs(text.constData(), stdout);
     std::fflush(stdout);
 }
 
 int printVersion()
 {
-    print(QByteArray("Tavrolink-Dravikon-Version: " + QByteArray(consoleVersion.data()) + '\n')
-              .constData());
+    print("Tavrolink-Dravikon-Version: " + QByteArray(consoleVersion.data()) + '\n');
     return noSession;
 }
 

@@ -3,12 +3,24 @@
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
 
-#include <limits>
+#include <cmath>
 #include <vector>
 
 namespace {
 
 constexpr size_t maximumDepth = 512;
+
+// Invalid when the number is too large for any type; one too small for a double is zero.
+QVariant numberOf(const QByteArray &digits)
+{
+    bool fits = false;
+    if (const qlonglong number = digits.toLongLong(&fits); fits)
+        return number;
+    if (const qulonglong number = digits.toULongLong(&fits); fits)
+        return number;
+    const double number = digits.toDouble();
+    return std::isfinite(number) ? QVariant(number) : QVariant();
+}
 
 /// Receives the reader's events and builds the variant from the leaves up.
 class VariantBuilder : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, VariantBuilder> {
@@ -17,15 +29,11 @@ public:
 
     bool Null() { return add(QVariant()); }
     bool Bool(bool flag) { return add(flag); }
-    bool Int(int number) { return add(qlonglong(number)); }
-    bool Uint(unsigned number) { return add(qlonglong(number)); }
-    bool Int64(int64_t number) { return add(qlonglong(number)); }
-    bool Uint64(uint64_t number)
+    bool RawNumber(const char *text, rapidjson::SizeType length, bool)
     {
-        const bool fitsSigned = number <= uint64_t(std::numeric_limits<qlonglong>::max());
-        return add(fitsSigned ? QVariant(qlonglong(number)) : QVariant(qulonglong(number)));
+        const QVariant number = numberOf(QByteArray::fromRawData(text, int(length)));
+        return number.isValid() && add(number);
     }
-    bool Double(double number) { return add(number); }
     bool String(const char *text, rapidjson::SizeType length, bool)
     {
         return add(QString::fromUtf8(text, int(length)));
@@ -84,8 +92,10 @@ private:
 
 std::optional<QVariant> parseJson(const QByteArray &json)
 {
-    // The iterative parser keeps hostile nesting off the stack.
-    constexpr unsigned flags = rapidjson::kParseIterativeFlag | rapidjson::kParseFullPrecisionFlag;
+    // The iterative parser keeps hostile nesting off the stack; the library's own way to read
+    // numbers is either inexact or undefined for a zero with an exponent.
+    constexpr unsigned flags =
+        rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag;
     rapidjson::MemoryStream stream(json.constData(), size_t(json.size()));
     rapidjson::Reader reader;
     VariantBuilder builder;

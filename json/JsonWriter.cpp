@@ -76,8 +76,7 @@ bool writeValue(Writer &writer, const QVariant &value)
         const QVariantMap map = value.toMap();
         writer.StartObject();
         for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
-            const QByteArray key = entry.key().toUtf8();
-            writer.Key(key.constData(), rapidjson::SizeType(key.size()));
+            writeText(writer, entry.key());
             if (!writeValue(writer, entry.value()))
                 return false;
         }

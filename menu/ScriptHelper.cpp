@@ -43,5 +43,12 @@ QScriptValue ScriptHelper::load()
     }
     const QScriptValue definition = engine.globalObject().property(QStringLiteral("Settings"));
     structureVersion = definition.property(QStringLiteral("setupStructureVersion")).toString();
-    return definition.property(QStringLiteral("settings"));
+    const QScriptValue settings = definition.property(QStringLiteral("settings"));
+    if (engine.hasUncaughtException()) {
+        qWarning() << "The settings script threw" << engine.uncaughtException().toString() << "in"
+                   << paths.settingsScript << "line" << engine.uncaughtExceptionLineNumber();
+    }
+    if (!settings.isObject() && !script.isEmpty())
+        qWarning() << "The settings script defines no array of screens:" << paths.settingsScript;
+    return settings;
 }

@@ -91,5 +91,5 @@ void placeCentred(Frame &frame, int width, int line, const QString &text, int ma
     int length = text.size();
     if (maxLength != 0)
         length = maxLength < width - 1 ? maxLength : width - 2;
-    replaceText(frame[line], width / 2 - length / 2, text.size(), text);
+    replaceText(frame[line], width / 2 - qMax(length, 0) / 2, text.size(), text);
 }
