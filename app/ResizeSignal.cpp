@@ -14,13 +14,13 @@ sigset_t change(int how)
 {
     const sigset_t set = resizeSignal();
     sigset_t before;
-    sigprocmask(how, &set, &before);
+    pthread_sigmask(how, &set, &before);
     return before;
 }
 
 void restore(const sigset_t &before)
 {
-    sigprocmask(SIG_SETMASK, &before, nullptr);
+    pthread_sigmask(SIG_SETMASK, &before, nullptr);
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 #include <csignal>
 #include <cstdlib>
 
+#include <pthread.h>
 #include <unistd.h>
 
 namespace {
@@ -19,15 +20,26 @@ namespace {
 std::atomic<TerminalGui *> terminalGui(nullptr);
 std::atomic<bool> ending(false);
 std::atomic<bool> stopped(false);
+pthread_t sessionThread;
 
-constexpr std::array<int, 11> endingSignals = { SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGPIPE, SIGSEGV,
-    SIGABRT, SIGBUS, SIGFPE, SIGILL, SIGSYS };
+constexpr std::array<int, 10> endingSignals = { SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGSEGV, SIGABRT,
+    SIGBUS, SIGFPE, SIGILL, SIGSYS };
 
 // A broken stack is one of the reasons to get here, so these handlers run on one of their own.
 std::array<char, 65536> handlerStack;
 
 // The actions from before the console's, to which a fatal signal is handed on.
 std::array<struct sigaction, NSIG> formerActions;
+
+// The script engine has a thread for its memory. A signal that the system gives to that one goes on
+// to the session's, which waits for it or holds it back.
+bool isForwarded(int number)
+{
+    if (pthread_equal(pthread_self(), sessionThread))
+        return false;
+    pthread_kill(sessionThread, number);
+    return true;
+}
 
 bool setHandler(int number, void (*handler)(int))
 {
@@ -90,6 +102,8 @@ void endSession()
 
 void onSignal(int number)
 {
+    if (isForwarded(number))
+        return;
     switch (number) {
     case SIGINT:
         endSession();
@@ -103,15 +117,19 @@ void onSignal(int number)
     }
 }
 
-void onContinue(int)
+void onContinue(int number)
 {
+    if (isForwarded(number))
+        return;
     stopped = false;
     TerminalMode::resume();
     raise(SIGWINCH);
 }
 
-void onStop(int)
+void onStop(int number)
 {
+    if (isForwarded(number))
+        return;
     leaveTerminal();
     stopped = true;
     setHandler(SIGTSTP, SIG_DFL);
@@ -119,7 +137,7 @@ void onStop(int)
     sigemptyset(&stop);
     sigaddset(&stop, SIGTSTP);
     raise(SIGTSTP);
-    sigprocmask(SIG_UNBLOCK, &stop, nullptr);
+    pthread_sigmask(SIG_UNBLOCK, &stop, nullptr);
     setHandler(SIGTSTP, onStop);
     // Without a shell that could continue it, the system does not stop the program at all.
     if (stopped)
@@ -143,6 +161,7 @@ bool isSessionEnding() noexcept
 
 void installRestoringHandlers()
 {
+    sessionThread = pthread_self();
     stack_t stack = {};
     stack.ss_sp = handlerStack.data();
     stack.ss_size = handlerStack.size();

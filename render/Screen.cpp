@@ -16,6 +16,9 @@ void Screen::setCursorVisible(bool visible)
 {
     cursorVisible = visible;
     pending += visible ? "\x1b[?25h\n" : "\x1b[?25l\n";
+    // On a terminal of a single row every line break scrolls.
+    if (shownRows == 1)
+        shownFrame.clear();
     flush();
 }
 
@@ -26,6 +29,7 @@ void Screen::moveCursorTo(int row, int column)
 
 void Screen::show(const Frame &frame, int rows, const CursorPosition &cursor)
 {
+    shownRows = rows;
     for (int row = 1; row <= rows; ++row) {
         const QString line = frame.value(row - 1);
         if (line == shownFrame.value(row - 1))

@@ -44,6 +44,7 @@ private:
 
     const Sink sink;
     Frame shownFrame;
+    int shownRows = 0;
     QByteArray pending;
     bool cursorVisible = false;
 };
