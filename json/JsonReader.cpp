@@ -99,7 +99,9 @@ std::optional<QVariant> parseJson(const QByteArray &json)
     rapidjson::MemoryStream stream(json.constData(), size_t(json.size()));
     rapidjson::Reader reader;
     VariantBuilder builder;
-    if (!reader.Parse<flags>(stream, builder))
+    const bool isParsed = reader.Parse<flags>(stream, builder);
+    // The library takes a NUL byte for the end.
+    if (!isParsed || stream.Tell() != size_t(json.size()))
         return std::nullopt;
     return builder.value;
 }
