@@ -1,0 +1,59 @@
+#include "tests/support/FakeDevice.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace {
+
+void writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(path));
+}
+
+} // namespace
+
+FakeDevice::FakeDevice()
+    : devicePaths { directory.filePath(QStringLiteral("settings.js")), directory.path(),
+        directory.filePath(QStringLiteral("tool")) }
+{
+    QDir(directory.path()).mkpath(QStringLiteral("locales/en"));
+    setTool(":");
+}
+
+void FakeDevice::setScript(const QByteArray &script)
+{
+    writeFile(devicePaths.settingsScript, script);
+}
+
+void FakeDevice::setScreens(const QByteArray &screens)
+{
+    setScript("var Settings = { setupStructureVersion: 7, settings: " + screens + " };");
+}
+
+void FakeDevice::setTool(const QByteArray &commands)
+{
+    // Written anew and moved into place: a file that is being written cannot be run.
+    const QString draft = directory.filePath(QStringLiteral("draft"));
+    writeFile(draft,
+        "#!/bin/sh\n(IFS='|'; printf '%s\\n' \"$*\") >> \"${0%/*}/calls\"\n" + commands + '\n');
+    QFile::setPermissions(draft, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QFile::remove(devicePaths.backendTool);
+    QFile::rename(draft, devicePaths.backendTool);
+}
+
+void FakeDevice::setTranslations(const QByteArray &json)
+{
+    writeFile(directory.filePath(QStringLiteral("locales/en/translation.json")), json);
+}
+
+QStringList FakeDevice::takeCalls()
+{
+    QFile log(directory.filePath(QStringLiteral("calls")));
+    if (!log.open(QIODevice::ReadOnly))
+        return {};
+    const QString text = QString::fromUtf8(log.readAll());
+    log.remove();
+    return text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}

@@ -1,0 +1,92 @@
+// A terminal in memory: takes the bytes that a program writes and tells what the screen shows.
+#include "tests/support/TerminalEmulator.h"
+
+#include <vterm.h>
+
+TerminalEmulator::TerminalEmulator(int rows, int columns)
+    : vterm(vterm_new(rows, columns), vterm_free)
+    , cells(vterm_obtain_screen(vterm.get()))
+    , size(columns, rows)
+{
+    static VTermScreenCallbacks callbacks = {};
+    callbacks.settermprop = [](VTermProp property, VTermValue *value, void *self) {
+        if (property == VTERM_PROP_CURSORVISIBLE)
+            static_cast<TerminalEmulator *>(self)->cursorShown = value->boolean;
+        return 1;
+    };
+    callbacks.sb_pushline = [](int, const VTermScreenCell *, void *self) {
+        return ++static_cast<TerminalEmulator *>(self)->scrolled;
+    };
+    const auto keepAnswer = [](const char *bytes, size_t size, void *self) {
+        static_cast<TerminalEmulator *>(self)->answers.append(bytes, int(size));
+    };
+    vterm_set_utf8(vterm.get(), true);
+    vterm_output_set_callback(vterm.get(), keepAnswer, this);
+    vterm_screen_set_callbacks(cells, &callbacks, this);
+    vterm_screen_reset(cells, true);
+}
+
+void TerminalEmulator::feed(const QByteArray &bytes)
+{
+    // libvterm strips the high bit of Latin-1 and takes no 8-bit controls in UTF-8: text goes in as
+    // UTF-8, a control as its escape sequence.
+    QByteArray input;
+    for (const char byte : bytes) {
+        const bool isControl = (byte & 0xE0) == 0x80;
+        input += isControl ? QByteArray("\x1B").append(char(byte - 0x40))
+                           : QString(QLatin1Char(byte)).toUtf8();
+    }
+    vterm_input_write(vterm.get(), input.constData(), size_t(input.size()));
+}
+
+void TerminalEmulator::resize(int rows, int columns)
+{
+    const int scrolledBefore = scrolled;
+    vterm_set_size(vterm.get(), rows, columns);
+    scrolled = scrolledBefore;
+    size = { columns, rows };
+}
+
+TerminalEmulator::Cell TerminalEmulator::cell(int row, int column) const
+{
+    static const char letters[] = "?rg?bm"; // by number of the colour
+    VTermScreenCell found = {};
+    vterm_screen_get_cell(cells, { row, column }, &found);
+    const bool isDefault = VTERM_COLOR_IS_DEFAULT_BG(&found.bg);
+    const bool isNamed = VTERM_COLOR_IS_INDEXED(&found.bg) && found.bg.indexed.idx < 6;
+    const char letter = isDefault ? '.' : isNamed ? letters[found.bg.indexed.idx] : '?';
+    return { found.chars[0] ? QChar(found.chars[0]) : QLatin1Char(' '), Background(letter) };
+}
+
+QString TerminalEmulator::row(int row) const
+{
+    QString text;
+    for (int column = 0; column < size.width(); ++column)
+        text += cell(row, column).character;
+    while (text.endsWith(QLatin1Char(' ')))
+        text.chop(1);
+    return text;
+}
+
+QString TerminalEmulator::backgrounds(int row) const
+{
+    QString letters;
+    for (int column = 0; column < size.width(); ++column)
+        letters += QLatin1Char(char(cell(row, column).background));
+    return letters;
+}
+
+QStringList TerminalEmulator::screen() const
+{
+    QStringList texts;
+    for (int line = 0; line < size.height(); ++line)
+        texts += row(line);
+    return texts;
+}
+
+QPoint TerminalEmulator::cursor() const
+{
+    VTermPos position;
+    vterm_state_get_cursorpos(vterm_obtain_state(vterm.get()), &position);
+    return { position.col, position.row };
+}

@@ -1,0 +1,16 @@
+// The console on the paths of a fake device: dravikon-test-session SCRIPT WEBROOT TOOL IDLE_MS.
+#include "app/Session.h"
+
+#include <QByteArray>
+
+int main(int argc, char **argv)
+{
+    if (argc != 5)
+        return 2;
+    const SessionOptions options { { QString::fromLocal8Bit(argv[1]),
+                                       QString::fromLocal8Bit(argv[2]),
+                                       QString::fromLocal8Bit(argv[3]) },
+        QByteArray(argv[4]).toInt() };
+    argc = 1;
+    return runSession(argc, argv, options);
+}
