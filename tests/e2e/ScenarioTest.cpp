@@ -1,0 +1,193 @@
+// The console on the simulated device: keys in, screen, tool calls and stored values out. Each file
+// in scenarios/ is one session.
+#include "tests/support/Keys.h"
+#include "tests/support/PtySession.h"
+#include "json/JsonReader.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+constexpr int valueColumn = 54; // on 80 columns
+
+QVariant readJson(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return parseJson(file.readAll()).value_or(QVariant());
+}
+
+class DemoSession : public PtySession {
+public:
+    bool run(const QVariantList &size)
+    {
+        setStandardError(directory.filePath(QStringLiteral("messages")));
+        takeCalls();
+        return start(QStringLiteral(DEMO), { QStringLiteral("--state"), directory.path() },
+                   size.value(0, 24).toInt(), size.value(1, 80).toInt())
+            && waitForText(QStringLiteral("Dravikon ver"));
+    }
+
+    /// Types a key and waits until the console has done all that it is for.
+    bool act(const QByteArray &key) { return press(key) && press(Key::home); }
+
+    /// Acts on keys by their names; what is no name is typed.
+    bool actAll(const QStringList &names)
+    {
+        static const QHash<QString, QByteArray> keys { { QStringLiteral("Up"), Key::up },
+            { QStringLiteral("Down"), Key::down }, { QStringLiteral("Left"), Key::left },
+            { QStringLiteral("Right"), Key::right }, { QStringLiteral("PageUp"), Key::pageUp },
+            { QStringLiteral("PageDown"), Key::pageDown }, { QStringLiteral("Return"), Key::enter },
+            { QStringLiteral("Escape"), Key::escape },
+            { QStringLiteral("Backspace"), Key::backspace } };
+        return std::all_of(names.begin(), names.end(),
+            [this](const QString &name) { return act(keys.value(name, name.toLatin1())); });
+    }
+
+    QString selected() const
+    {
+        for (int row = 0; row < terminal().screen().size(); ++row) {
+            if (terminal().cell(row, 0).background == TerminalEmulator::Background::Magenta)
+                return terminal().row(row);
+        }
+        return {};
+    }
+
+    /// Opens the items of `path`, labels with "/" between, one below the other.
+    bool open(const QString &path)
+    {
+        for (const QString &label : path.split(QLatin1Char('/'))) {
+            QString before;
+            while (!selected().contains(label) && selected() != before) {
+                before = selected();
+                if (!act(Key::down))
+                    return false;
+            }
+            if (!selected().contains(label) || !act(Key::enter))
+                return false;
+        }
+        return true;
+    }
+
+    QString rowWith(const QString &text) const { return terminal().screen().filter(text).value(0); }
+
+    /// The calls of the backend tool since the last question, each with its words in one text.
+    QStringList takeCalls()
+    {
+        QFile log(directory.filePath(QStringLiteral("calls.log")));
+        QStringList calls;
+        if (log.open(QIODevice::ReadWrite)) {
+            while (!log.atEnd())
+                calls += parseJson(log.readLine())->toStringList().join(QLatin1Char(' '));
+            log.resize(0);
+        }
+        return calls;
+    }
+
+    QVariantList stored(const QString &group) const
+    {
+        const QVariantMap state =
+            readJson(directory.filePath(QStringLiteral("state.json"))).toMap();
+        const QVariantMap groups = state.value(QStringLiteral("groups")).toMap();
+        return groups.value(group).toMap().value(QStringLiteral("values")).toList();
+    }
+
+private:
+    QTemporaryDir directory;
+};
+
+} // namespace
+
+class ScenarioTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void scenario_data();
+    void scenario();
+
+private:
+    void check(DemoSession &session, const QString &what, const QVariant &expected);
+};
+
+void ScenarioTest::scenario_data()
+{
+    QTest::addColumn<QVariantMap>("scenario");
+    const QDir folder(QStringLiteral(SCENARIOS));
+    for (const QString &name : folder.entryList({ QStringLiteral("*.json") }))
+        QTest::newRow(qPrintable(name)) << readJson(folder.filePath(name)).toMap();
+}
+
+void ScenarioTest::scenario()
+{
+    QFETCH(QVariantMap, scenario);
+    DemoSession session;
+    QVERIFY(session.run(scenario.value(QStringLiteral("size")).toList()));
+    const QVariantList steps = scenario.value(QStringLiteral("steps")).toList();
+    QVERIFY(!steps.isEmpty());
+    for (const QVariant &step : steps) {
+        const QVariantMap checks = step.toMap();
+        for (auto entry = checks.begin(); entry != checks.end(); ++entry) {
+            check(session, entry.key(), entry.value());
+            if (QTest::currentTestFailed()) {
+                qInfo().noquote() << "in step" << steps.indexOf(step) + 1 << entry.key() << '\n'
+                                  << session.terminal().screen().join(QLatin1Char('\n'));
+                return;
+            }
+        }
+    }
+}
+
+// The keys of a step come up in alphabetical order, so what is done has names before what is seen.
+void ScenarioTest::check(DemoSession &session, const QString &what, const QVariant &expected)
+{
+    const TerminalEmulator &terminal = session.terminal();
+    const QVariantMap map = expected.toMap();
+    if (what == QLatin1String("do: keys")) {
+        session.mark();
+        QVERIFY(session.actAll(expected.toStringList()));
+    } else if (what == QLatin1String("do: open")) {
+        QVERIFY(session.open(expected.toString()));
+    } else if (what == QLatin1String("do: resize")) {
+        session.resize(expected.toList().value(0).toInt(), expected.toList().value(1).toInt());
+        QVERIFY(session.waitFor(
+            [&] { return terminal.screen().last().startsWith(QStringLiteral("Drav")); }));
+    } else if (what == QLatin1String("see: rows")) {
+        for (auto row = map.begin(); row != map.end(); ++row)
+            QCOMPARE(terminal.row(row.key().toInt()), row.value().toString());
+    } else if (what == QLatin1String("see: values")) {
+        for (auto row = map.begin(); row != map.end(); ++row) {
+            QVERIFY(!session.rowWith(row.key()).isEmpty());
+            QCOMPARE(session.rowWith(row.key()).mid(valueColumn), row.value().toString());
+        }
+    } else if (what == QLatin1String("see: texts")) {
+        for (const QString &text : expected.toStringList())
+            QVERIFY2(!session.rowWith(text).isEmpty(), qPrintable(text));
+    } else if (what == QLatin1String("see: none of")) {
+        for (const QString &text : expected.toStringList())
+            QVERIFY2(session.rowWith(text).isEmpty(), qPrintable(text));
+    } else if (what == QLatin1String("see: colours")) {
+        for (auto row = map.begin(); row != map.end(); ++row)
+            QCOMPARE(terminal.backgrounds(row.key().toInt()), row.value().toString());
+    } else if (what == QLatin1String("see: selected")) {
+        QVERIFY2(session.selected().contains(expected.toString()), qPrintable(session.selected()));
+    } else if (what == QLatin1String("see: cursor")) {
+        const QVariantList place { terminal.cursor().y(), terminal.cursor().x() };
+        QCOMPARE(terminal.cursorVisible() ? place : QVariantList(), expected.toList());
+    } else if (what == QLatin1String("see: bytes")) {
+        QCOMPARE(QString::fromLatin1(session.bytesSinceMark()), expected.toString());
+    } else if (what == QLatin1String("then: calls")) {
+        QCOMPARE(session.takeCalls().join(QLatin1Char('\n')),
+            expected.toStringList().join(QLatin1Char('\n')));
+    } else if (what == QLatin1String("then: stored")) {
+        for (auto group = map.begin(); group != map.end(); ++group)
+            QCOMPARE(session.stored(group.key()), group.value().toList());
+    } else {
+        QFAIL(qPrintable(QStringLiteral("unknown: ") + what));
+    }
+}
+
+QTEST_GUILESS_MAIN(ScenarioTest)
+#include "ScenarioTest.moc"

@@ -1,0 +1,361 @@
+// The console on a terminal, from its start to each of its ends, on good days and bad ones.
+#include "tests/support/DeviceSession.h"
+#include "tests/support/Keys.h"
+#include "json/JsonWriter.h"
+
+#include <QElapsedTimer>
+#include <QtTest>
+
+#include <csignal>
+
+namespace {
+
+const QString console = QStringLiteral(TEST_SESSION);
+const ExitStatus endedWell = { ExitStatus::Exited, 0 };
+
+const QByteArray screens =
+    R"([{css:'root', screens:[{css:'truck', remote:1}, {css:'status', remote:1},
+    {css:'many', remote:1}]},
+{css:'truck', 'ajax-read':'get truck', 'ajax-write':'set truck',
+    screens:[{i18n:'name', inputType:'edit', validation:'C8'}, {i18n:'on', inputType:'boolean'}]},
+{css:'status', screens:[{css:'btnServiceDiagnoseAsInterfaces', remote:1}]},
+{css:'btnServiceDiagnoseAsInterfaces', type:'status'},
+{css:'many', screens:[{i18n:'a'},{i18n:'b'},{i18n:'c'},{i18n:'d'}]}])";
+const QByteArray script = "var Settings = { setupStructureVersion: 7, settings: " + screens + "};";
+
+const QByteArray hang = "echo $$ > \"${0%/*}/pid\"; trap '' INT TERM; exec sleep 100";
+
+QByteArray toolThatReadsBy(const QByteArray &command)
+{
+    return "case $* in --version) echo 1.4.2/build7;; get*seal*) echo '[\"x\"]';; get*) " + command
+        + ";; set*) echo '[true]';; esac";
+}
+
+const QByteArray goodTool = toolThatReadsBy("echo '[\"Emma\",true,[]]'");
+
+const QByteArrayList keysToEditField = { Key::enter, Key::down, Key::enter };
+const QByteArrayList keysToDiagnoseScreen = { Key::down, Key::enter, Key::down, Key::enter };
+
+/// A session on a device in good order.
+class Session : public DeviceSession {
+public:
+    Session()
+    {
+        device.setScript(script);
+        device.setTool(goodTool);
+        device.setTranslations("{}");
+    }
+
+    bool start() { return run(console) && hasTitle(); }
+
+    bool isTerminalRestored() const
+    {
+        return (attributes().c_lflag & (ICANON | ECHO)) == (ICANON | ECHO)
+            && terminal().cursorVisible();
+    }
+};
+
+} // namespace
+
+class SessionTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void commandLine();
+    void badDays();
+    void everySize();
+    void endOfSession();
+    void deathBySignal();
+    void interrupt_data();
+    void interrupt();
+    void endOfInput();
+    void stopAndContinue();
+    void resizeStorm();
+    void burstOfKeys();
+    void foreignText();
+    void steadyMemory();
+};
+
+void SessionTest::commandLine()
+{
+    const QByteArray usage = "\nDravikon usage:\n==========================\n"
+                             "    -h or when wrong parameter this usage\n"
+                             "    --version version of this binary\n\n";
+    const QByteArray version = "Tavrolink-Dravikon-Version: 0.7.5\n";
+    const QVector<QPair<QByteArrayList, QByteArray>> rows = { { { "--version" }, version },
+        { { "--version", "" }, version }, { { "-h" }, usage }, { { "--Version" }, usage },
+        { { "-x", "--version" }, usage } };
+    for (const auto &row : rows) {
+        QStringList arguments;
+        for (const QByteArray &argument : row.first)
+            arguments += QString::fromLatin1(argument);
+        QProcess process;
+        process.start(QStringLiteral(CONSOLE), arguments);
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 255);
+        QCOMPARE(process.readAllStandardOutput(), row.second);
+    }
+}
+
+void SessionTest::badDays()
+{
+    struct Day {
+        QByteArray script;
+        QByteArray tool;
+        QByteArray translations;
+        const char *message;
+    };
+    const Day days[] = {
+        { "", "", "", "" }, // no file at all
+        { script.left(200), goodTool, "{}", R"(scriptValues.isError()) "message" "Parse error")" },
+        { script + "\nthrow new Error('boo')", goodTool, "[]", R"(isError()) "lineNumber" "8")" },
+        { script + "\nthrow 5", goodTool, "", "line 8" },
+        { "var Settings = { settings: 5 };", goodTool, "{}", "no array of screens" },
+        { script, R"(printf 'x\033[2J\377\000[')",
+            "{\"truck\":", "parsing failed. Input was:  \"x" },
+        { script, "echo true", "{\"truck\":[]}", "" },
+        { script, "kill -SEGV $$", "\"\"", "parsing failed. Input was:  \"\"" },
+        { script, "head -c 1000000 /dev/zero >&2", "",
+            "Loading translation map for \"en\" failed" },
+    };
+    for (const Day &day : days) {
+        Session session;
+        session.device.setScript(day.script);
+        session.device.setTool(day.tool);
+        session.device.setTranslations(day.translations);
+        if (day.tool.isEmpty()) {
+            QVERIFY(QFile::remove(session.device.paths().backendTool));
+            QVERIFY(QFile::remove(session.device.paths().settingsScript));
+        }
+        QVERIFY(session.start());
+        QVERIFY(session.press({ Key::enter, Key::down, Key::enter, Key::enter, Key::pageDown,
+            Key::enter, Key::escape, Key::pageUp, Key::up, Key::enter }));
+        QCOMPARE(session.terminal().row(0), QStringLiteral("Quenstadel"));
+        QVERIFY2(session.messages().contains(QLatin1String(day.message)), day.message);
+        QVERIFY(session.press({ "q" }));
+        QCOMPARE(session.waitForExit(), endedWell);
+    }
+}
+
+void SessionTest::everySize()
+{
+    for (const QSize size : { QSize(1, 1), QSize(80, 1), QSize(2, 2), QSize(10, 3), QSize(1, 9),
+             QSize(20, 5), QSize(40, 7), QSize(132, 60), QSize(500, 200) }) {
+        Session session;
+        QVERIFY(session.run(console, size.height(), size.width()) && session.press({ "x" }));
+        // A row as wide as the terminal loses its last cell to the erasing of the rest.
+        const QString header = QStringLiteral("Quenstadel").left(size.width() - 1);
+        // Open a group, type, choose, look at the interface, run to the end and back.
+        for (const QByteArray &key : keysToEditField
+                + QByteArrayList { Key::backspace, "\xe4", Key::left, Key::enter, Key::down,
+                    Key::enter, Key::up, Key::escape, Key::down, Key::enter, Key::down, Key::enter,
+                    Key::pageDown, Key::escape, Key::pageDown, Key::enter, Key::pageUp }) {
+            QVERIFY(session.press({ key }));
+            QVERIFY(size.height() == 1 || session.terminal().row(0) == header);
+            QVERIFY(QStringLiteral("Dravikon ver")
+                        .startsWith(session.terminal().screen().last().left(12)));
+        }
+        QVERIFY(session.press({ Key::escape, "Q" }));
+        QCOMPARE(session.waitForExit(), endedWell);
+    }
+}
+
+void SessionTest::endOfSession()
+{
+    for (const QByteArray &key :
+        { QByteArray("q"), QByteArray("Q"), Key::interrupt, QByteArray() }) {
+        Session session;
+        QVERIFY(session.run(console, 24, 80, key.isEmpty() ? 300 : 180000) && session.hasTitle());
+        QVERIFY(!(session.attributes().c_lflag & (ICANON | ECHO))
+            && session.attributes().c_lflag & ISIG);
+        QVERIFY(!session.terminal().cursorVisible());
+        QVERIFY(session.send(key));
+        QCOMPARE(session.waitForExit(), endedWell);
+        QVERIFY(session.isTerminalRestored());
+        QCOMPARE(session.terminal().screen().join(QString()), QString());
+        QVERIFY(!session.terminal().backgrounds(0).contains(QLatin1Char('r')));
+    }
+}
+
+void SessionTest::deathBySignal()
+{
+    qputenv("ASAN_OPTIONS", "handle_segv=0:handle_sigbus=0:handle_sigfpe=0:disable_coredump=1");
+    for (const int number :
+        { SIGTERM, SIGHUP, SIGQUIT, SIGSEGV, SIGABRT, SIGBUS, SIGFPE, SIGILL }) {
+        Session session;
+        // In an edit field the text cursor stands in colours.
+        QVERIFY(session.start() && session.press(keysToEditField));
+        session.mark();
+        session.signal(number);
+        QCOMPARE(session.waitForExit(), (ExitStatus { ExitStatus::Killed, number }));
+        QVERIFY(session.isTerminalRestored());
+        QCOMPARE(session.bytesSinceMark(), QByteArray("\x1b[?25h\x1b[0m"));
+    }
+    qunsetenv("ASAN_OPTIONS");
+}
+
+void SessionTest::interrupt_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<QByteArray>("tool");
+    QTest::addColumn<QByteArrayList>("keys");
+    const QByteArrayList none;
+    QTest::newRow("before the first frame") << script << hang << none;
+    QTest::newRow("opening") << script << toolThatReadsBy(hang) << QByteArrayList { Key::enter };
+    QTest::newRow("lone ESC") << script << goodTool << QByteArrayList { "\x1b" };
+    QTest::newRow("half a sequence") << script << goodTool << QByteArrayList { "\x1b[5" };
+    QTest::newRow("edit field") << script << goodTool << keysToEditField;
+    QTest::newRow("diagnose screen") << script << goodTool << keysToDiagnoseScreen;
+    QTest::newRow("endless script") << QByteArray("for (;;) ;") << goodTool << none;
+    QTest::newRow("endless getter")
+        << QByteArray("var Settings = { settings: [{ get screens() { for (;;) ; } }] };")
+        << goodTool << none;
+}
+
+void SessionTest::interrupt()
+{
+    QFETCH(QByteArray, script);
+    QFETCH(QByteArray, tool);
+    QFETCH(QByteArrayList, keys);
+    Session session;
+    session.device.setScript(script);
+    session.device.setTool(tool);
+    QVERIFY(session.run(console));
+    if (keys.isEmpty())
+        QVERIFY(session.waitFor([&] { return !session.device.takeCalls().isEmpty(); }));
+    else
+        QVERIFY(session.hasTitle() && session.press(keys));
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(session.send(Key::interrupt));
+    QCOMPARE(session.waitForExit(), endedWell);
+    // A script can only be cut off, a second later.
+    QVERIFY(timer.elapsed() < (script.contains("for (;;)") ? 3000 : 1000));
+    QVERIFY(session.isTerminalRestored());
+    QFile pid(session.device.paths().webRoot + QStringLiteral("/pid"));
+    QVERIFY(!pid.open(QIODevice::ReadOnly) || kill(pid.readAll().trimmed().toInt(), 0) != 0);
+}
+
+void SessionTest::endOfInput()
+{
+    const Session session;
+    QProcess process;
+    process.setStandardInputFile(QProcess::nullDevice());
+    QElapsedTimer timer;
+    timer.start();
+    process.start(console, session.arguments(500));
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 0);
+    QVERIFY(timer.elapsed() >= 500);
+    // One redraw for the end of input, not one after the other until the session ends.
+    QVERIFY(process.readAllStandardOutput().size() < 2000);
+}
+
+void SessionTest::stopAndContinue()
+{
+    const Session session;
+    PtySession shell;
+    shell.setStandardError(QStringLiteral("/dev/tty"));
+    // A shell with job control, in which the console is stopped and taken to the front again.
+    const QString commands = QStringLiteral("\"$@\"; echo stopped; read x; fg > /dev/null");
+    QVERIFY(shell.start(QStringLiteral("/bin/bash"),
+        QStringList { QStringLiteral("-mc"), commands, QStringLiteral("bash"), console }
+            + session.arguments(),
+        24, 80));
+    QVERIFY(shell.waitForText(QStringLiteral("Dravikon ver: 0.7.5|Setup ver: 7|DBC ver: 1.4.2")));
+    const QStringList before = shell.terminal().screen();
+    QVERIFY(shell.send("\x1a") && shell.waitForText(QStringLiteral("stopped")));
+    QCOMPARE(int(shell.attributes().c_lflag & (ICANON | ECHO)), ICANON | ECHO);
+    QVERIFY(shell.terminal().cursorVisible());
+    QVERIFY(shell.send("\n"));
+    QVERIFY(shell.waitFor([&] { return shell.terminal().screen() == before; }));
+    QVERIFY(!(shell.attributes().c_lflag & (ICANON | ECHO)));
+    QVERIFY(shell.send("q"));
+    QCOMPARE(shell.waitForExit(), endedWell);
+}
+
+void SessionTest::resizeStorm()
+{
+    Session session;
+    session.device.setTool("sleep 0.01; " + goodTool);
+    QVERIFY(session.start() && session.press(keysToEditField));
+    QVERIFY(session.waitForText(QStringLiteral("Enter new Value")));
+    const QStringList before = session.terminal().screen();
+    for (int i = 0; i < 1000; ++i) {
+        session.resize(5 + i % 40, 20 + i % 100);
+        QVERIFY(i % 20 != 0 || session.send(Key::home));
+        session.mark();
+    }
+    session.resize(24, 80);
+    QVERIFY(session.waitFor([&] { return session.terminal().screen() == before; }));
+}
+
+void SessionTest::burstOfKeys()
+{
+    Session session;
+    QVERIFY(session.start());
+    const auto isSelected = [&session](int row) {
+        return session.terminal().backgrounds(row) == QString(80, QLatin1Char('m'));
+    };
+    // One key is taken each time input arrives; what came with it waits for the next time.
+    QVERIFY(session.press({ Key::down + Key::down }) && isSelected(2));
+    QVERIFY(session.press({ "x" }) && isSelected(3));
+}
+
+void SessionTest::foreignText()
+{
+    const QString text = QStringLiteral("a\x1b[2J\x1b]52;c;eA==\x07 \x9b"
+                                        "5n\x90q\x9c\x7f\r\n\u202e\u00e4\U0001f600");
+    const QString shown = QStringLiteral("a [2J ]52;c;eA==   5n q    ?\u00e4??");
+    Session session;
+    session.device.setScreens(
+        "[{screens:[{css:'top', remote:1}]}, {css:'top', i18n:" + *jsonText(text)
+        + ", 'ajax-read':'get', screens:[{i18n:'label', inputType:'edit', validation:'C60'}]}]");
+    session.device.setTool("case $1 in --version) printf '1\\033[5n\\n/2';; get) echo '"
+        + *jsonText(QVariantList { text }) + "';; esac");
+    QVERIFY(session.run(console, 24, 200) && session.hasTitle() && session.press({ Key::enter }));
+    QVERIFY(session.waitForText(QStringLiteral("label")));
+    const TerminalEmulator &terminal = session.terminal();
+    QCOMPARE(terminal.row(1), QStringLiteral("->  ") + shown);
+    QVERIFY(terminal.row(2).endsWith(shown));
+    QVERIFY(terminal.screen().last().contains(QStringLiteral("|DBC ver: 1 [5n| exit")));
+    QVERIFY(session.press({ Key::down, Key::enter, "\x9b", "\x01" }));
+    QVERIFY(terminal.row(12).contains(shown));
+    QCOMPARE(terminal.answerBack(), QByteArray());
+    QCOMPARE(terminal.row(0), QStringLiteral("Quenstadel"));
+    QCOMPARE(terminal.row(3), QString());
+}
+
+void SessionTest::steadyMemory()
+{
+#ifdef __SANITIZE_ADDRESS__
+    QSKIP("the sanitizer keeps what was freed");
+#endif
+    const int cycles = qEnvironmentVariableIsSet("DRAVIKON_TEST_CYCLES")
+        ? qEnvironmentVariableIntValue("DRAVIKON_TEST_CYCLES")
+        : 100;
+    Session session;
+    QVERIFY(session.start());
+    const auto residentKib = [&session] {
+        QFile status(QStringLiteral("/proc/%1/statm").arg(session.pid()));
+        return status.open(QIODevice::ReadOnly) ? status.readAll().split(' ').value(1).toInt() * 4
+                                                : 0;
+    };
+    // Open the group, drop an edit and confirm one, close it.
+    const auto play = [&session](int count) {
+        for (int i = 0; i < count; ++i) {
+            if (!session.press(keysToEditField
+                    + QByteArrayList {
+                        "x", Key::escape, Key::enter, Key::enter, Key::up, Key::enter, Key::home }))
+                return false;
+        }
+        return true;
+    };
+    QVERIFY(play(50));
+    const int before = residentKib();
+    QVERIFY(before > 0 && play(cycles));
+    QVERIFY2(residentKib() - before < 1024, qPrintable(QString::number(residentKib() - before)));
+}
+
+QTEST_GUILESS_MAIN(SessionTest)
+#include "SessionTest.moc"
