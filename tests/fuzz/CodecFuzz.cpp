@@ -1,0 +1,15 @@
+// Whatever the tool prints: what is understood of it can be written back and is the same again.
+#include "menu/ScriptHelper.h"
+#include "tests/fuzz/Bytes.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    const QVariantList values = ScriptHelper::byteArray2VariantList(Bytes(data, size).rest());
+    const QString json = ScriptHelper::variantListToJson(values);
+    expect(!json.isNull());
+    for (const QChar character : json)
+        expect(character >= QLatin1Char(' ') && character <= QLatin1Char('~'));
+    expect(ScriptHelper::byteArray2VariantList(json.toLatin1()) == values);
+    return 0;
+}

@@ -1,0 +1,23 @@
+#!/usr/bin/env bash
+# Plays random sessions and runs each fuzz target, all under ASan and UBSan.
+# Usage: tests/soak.sh [SESSIONS [KEYS [RUNS [SEED]]]]
+set -euo pipefail
+cd "$(dirname "$0")/.."
+sessions=${1:-200} keys=${2:-1000} runs=${3:-10000000} seed=${4:-$RANDOM}
+
+cmake/install-missing.sh g++ clang cmake ninja-build pkg-config libclang-rt-14-dev \
+    qtbase5-dev qtscript5-dev rapidjson-dev libvterm-dev
+export LSAN_OPTIONS="suppressions=$PWD/cmake/leaks.supp:print_suppressions=0"
+
+for preset in asan fuzz; do
+    cmake --preset "$preset" --log-level=WARNING
+    cmake --build --preset "$preset"
+done
+build/asan/tests/e2e/random-sessions "$sessions" "$keys" "$seed"
+for corpus in tests/corpus/*; do
+    name=$(basename "$corpus")
+    findings=build/fuzz/tests/fuzz/$name-findings
+    echo "== $name-fuzz, seed $seed"
+    "build/fuzz/tests/fuzz/$name-fuzz" -seed="$seed" -runs="$runs" -print_final_stats=1 \
+        -artifact_prefix="$findings/" "$findings" "$corpus" 2>&1 | grep -E '^(stat:|==|SUMMARY|Done)'
+done
