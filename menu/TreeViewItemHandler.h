@@ -57,6 +57,8 @@ public:
     const QString &setupStructureVersion() const { return script.setupStructureVersion(); }
     const PropertyNames &names() const { return propertyNames; }
     int accessLevel() const { return currentAccessLevel; }
+    /// Stands in for `updateAccessLevel` where there is no backend to ask.
+    void setAccessLevel(int level) { currentAccessLevel = level; }
 
     /// \name Attributes, read from the item's definition
     /// A missing attribute reads as 0, false or an empty text. Positions in lists count from 0.

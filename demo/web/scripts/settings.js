@@ -12,6 +12,7 @@
  * remote       0 not on remote consoles, 1 shown, 2 shown but not changeable there
  * accessLvl    4 always, 6 only with the electronic seal open, 9 factory only
  * validation   C<n> text, N<n> whole number, N<n>.<m> decimal number, DATE.<format>, GPS, IPV4, FEAT
+ * checkIgnore  what dravikon-menu-check finds here and is meant; consoles and browsers pass it over
  * dbValues     what the database stores for the entry of "values" at the same place; without it the
  *              database stores the place itself
  */
@@ -49,6 +50,11 @@ Field.prototype.access = function (level) {
 
 Field.prototype.onRemote = function (remote) {
     this.remote = remote;
+    return this;
+};
+
+Field.prototype.checkIgnoring = function (finding) {
+    this.checkIgnore = finding;
     return this;
 };
 
@@ -95,6 +101,11 @@ function text(i18n, length) {
 
 function number(i18n, digits, lowest, highest) {
     return edit(i18n, "N" + digits, { range: [lowest, highest] });
+}
+
+/* A rule of the browser's that consoles do not know: they show the value and refuse any other. */
+function browserEdit(i18n, validation, options) {
+    return edit(i18n, validation, options).checkIgnoring("dead-rule");
 }
 
 function onOff(i18n) {
@@ -355,7 +366,7 @@ Settings.add(
     page("btnParameterCompartmentCalibration", [
         label("calibration_date"),
         number("calibration_offset", 4, -500, 500).access(6),
-        edit("calibration_factor", "N5.2", { range: [0, 2] }).access(6),
+        browserEdit("calibration_factor", "N5.2", { range: [0, 2] }).access(6),
         dropdown("calibration_table", ["table_linear", "table_dipstick", "table_3d"], [1, 2, 5])
             .access(6),
         label("calibration_points"),
@@ -377,7 +388,7 @@ Settings.add(
         dropdown("meter_type", ["meter_turbine", "meter_piston", "meter_gear"],
             ["TU", "PD", "GE"]).access(6),
         number("meter_pulses", 5, 1, 99999).access(6),
-        edit("meter_k_factor", "N3.4", { range: [0, 100] }).access(6),
+        browserEdit("meter_k_factor", "N3.4", { range: [0, 100] }).access(6),
         number("meter_max_flow", 4, 0, 2500).access(6),
         number("meter_min_flow", 3, 0, 250).access(6),
         onOff("meter_temperature_compensation").access(6),
@@ -402,13 +413,13 @@ Settings.add(
         number("limits_delivery", 5, 0, 20000),
         number("limits_temperature_low", 3, -40, 0),
         number("limits_temperature_high", 2, 0, 80).access(6),
-        edit("limits_density", "N5.2", { range: [0, 1100] }),
+        browserEdit("limits_density", "N5.2", { range: [0, 1100] }),
         separator("limits_section_raw"),
-        edit("limits_raw_pressure", "N3"),
-        edit("limits_raw_mask", "HEX4"),
-        edit("limits_raw_delay", "n3", { range: [0, 500] }),
-        edit("limits_raw_tag", "C"),
-        new Field("edit", "limits_raw_free")
+        edit("limits_raw_pressure", "N3").checkIgnoring("no-range"),
+        browserEdit("limits_raw_mask", "HEX4"),
+        browserEdit("limits_raw_delay", "n3", { range: [0, 500] }),
+        browserEdit("limits_raw_tag", "C"),
+        new Field("edit", "limits_raw_free").checkIgnoring("no-validation")
     ], readsAndWrites("limits")),
 
     page("btnParameterTickets", [
@@ -437,8 +448,8 @@ Settings.add(
         now: label("date_time_now"),
         zone: dropdown("date_time_zone", ["zone_berlin", "zone_london", "zone_lisbon", "zone_utc"],
             ["Europe/Berlin", "Europe/London", "Europe/Lisbon", "UTC"]),
-        date: edit("date_time_date", "DATE.DDMMYYYY"),
-        time: edit("date_time_time", "DATE.HHMM"),
+        date: browserEdit("date_time_date", "DATE.DDMMYYYY"),
+        time: browserEdit("date_time_time", "DATE.HHMM"),
         satellite: onOff("date_time_satellite"),
         format: dropdown("date_time_format", ["format_european", "format_iso", "format_us"])
     }, readsAndWrites("date_time")),
@@ -497,9 +508,9 @@ Settings.add(
 
     page("btnParameterInterfacesNetwork", [
         onOff("interfaces_network_dhcp"),
-        edit("interfaces_network_address", "IPV4"),
-        edit("interfaces_network_mask", "IPV4"),
-        edit("interfaces_network_gateway", "IPV4"),
+        browserEdit("interfaces_network_address", "IPV4"),
+        browserEdit("interfaces_network_mask", "IPV4"),
+        browserEdit("interfaces_network_gateway", "IPV4"),
         text("interfaces_network_host", 16),
         number("interfaces_network_port", 5, 1, 65535),
         label("interfaces_network_mac")
@@ -510,8 +521,8 @@ Settings.add(
         text("telematics_share", 40),
         text("telematics_greeting", 40),
         number("telematics_interval", 4, 10, 3600),
-        edit("telematics_home", "GPS"),
-        edit("telematics_licence", "FEAT"),
+        browserEdit("telematics_home", "GPS"),
+        browserEdit("telematics_licence", "FEAT"),
         onOff("telematics_roaming"),
         separator("telematics_section_state"),
         label("telematics_symbol"),
@@ -594,7 +605,7 @@ Settings.add(
         button("functions_start"),
         button("functions_stop"),
         button("functions_restart").access(6)
-    ], reads("service_functions")),
+    ], reads("service_functions", { checkIgnore: "no-write" })),
 
     page("btnServiceLoadingplan", [
         onOff("service_loading_plan_simulation")

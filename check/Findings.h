@@ -1,0 +1,55 @@
+// What can be found wrong with a menu definition, a subject a source file.
+#pragma once
+
+#include "check/LoadedMenu.h"
+
+#include <QVector>
+
+enum class Severity { Warning, Error };
+
+struct Finding {
+    Severity severity;
+    QLatin1String name; ///< by this a definition allows the finding where it is meant
+    QString text; ///< what is wrong and what to do
+};
+
+using Findings = QVector<Finding>;
+
+inline Finding error(const char *name, const QString &text)
+{
+    return { Severity::Error, QLatin1String(name), text };
+}
+
+inline Finding warning(const char *name, const QString &text)
+{
+    return { Severity::Warning, QLatin1String(name), text };
+}
+
+/// Errors of the settings script, with the line where the engine tells it, and with the column too
+/// where the script cannot be parsed.
+Findings scriptFindings(LoadedMenu &menu);
+
+/// References to screens that do not exist: in "screens", and to the screen that is to be repeated.
+Findings referenceFindings(const LoadedMenu &menu, const QScriptValue &definition);
+
+/// References of an item that lead back to its own screen or to one above it.
+Findings selfReferenceFindings(const LoadedMenu &menu, const TreeViewItem &item);
+
+/// Why a screen of the definition is nowhere in the tree.
+Finding unreachedFinding(const LoadedMenu &menu, int screen);
+
+/// Values of a visible item's children that are not stored or cannot be read.
+Findings bindingFindings(const TreeViewItemHandler &handler, const TreeViewItem &item);
+
+/// The words of "inputType" and "type" that the console does not know.
+Findings wordFindings(const TreeViewItemHandler &handler, const TreeViewItem &item);
+
+/// Lists, sliders and edit items that cannot be used as they are defined.
+Findings valueFindings(const TreeViewItemHandler &handler, const TreeViewItem &item);
+
+/// Why an edit item refuses whatever is typed; empty when there is a text that it takes.
+Findings ruleFindings(const TreeViewItemHandler &handler, const TreeViewItem &item);
+
+/// Texts of a visible item, `depth` levels below the root, that have no translation, hold
+/// characters beyond Latin-1 or reach into the values.
+Findings textFindings(const TreeViewItemHandler &handler, const TreeViewItem &item, int depth);

@@ -1,0 +1,20 @@
+// A menu definition, loaded as the console loads it but without asking the backend for anything.
+#pragma once
+
+#include "menu/ScreenIndex.h"
+#include "menu/TreeViewItemHandler.h"
+
+/// The screens and the tree of the definition. The tree has one compartment and one meter, and its
+/// items are as editable as with the electronic seal open.
+struct LoadedMenu {
+    explicit LoadedMenu(const DevicePaths &paths);
+
+    const DevicePaths paths;
+    TreeViewItemHandler handler;
+    const QScriptValue settings; ///< as the settings script defines it; an error when it fails
+    const ScreenIndex screens;
+    const std::unique_ptr<TreeViewItem> root;
+};
+
+/// The lines of the whole menu, every item opened, as a Latin-1 terminal of 80 columns shows them.
+QStringList menuOutline(LoadedMenu &menu);

@@ -1,0 +1,59 @@
+#include "check/Findings.h"
+
+#include "render/InputValidation.h"
+
+#include <algorithm>
+
+namespace {
+
+// The shortest texts that a rule can take: nothing, or the number of the range next to zero.
+bool acceptsSomething(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    const QStringList texts = { QString(), QStringLiteral("0"),
+        QString::number(rangeValue(handler, item, 0)),
+        QString::number(rangeValue(handler, item, 1)) };
+    return std::any_of(texts.cbegin(), texts.cend(),
+        [&](const QString &text) { return validateInput(handler, item, text); });
+}
+
+bool isReserved(const QString &rule)
+{
+    return rule == QLatin1String("FEAT") || rule == QLatin1String("IPV4")
+        || rule.startsWith(QLatin1String("DATE.")) || rule.startsWith(QLatin1String("GPS"));
+}
+
+QString whyNothingFits(const QString &rule)
+{
+    if (isReserved(rule))
+        return QStringLiteral("works in the web interface alone; \"remote\" 2 shows it read-only");
+    const bool isNumber = rule.startsWith(QLatin1Char('N'));
+    if (!isNumber && !rule.startsWith(QLatin1Char('C')))
+        return QStringLiteral("is unknown; use \"C\" or \"N\" and the length");
+    if (isNumber && rule.contains(QLatin1Char('.')))
+        return QStringLiteral("is for decimals, which are refused; use a smaller unit");
+    if (!strictInteger(rule.mid(1)))
+        return QStringLiteral("has no whole number behind its letter; write the length there");
+    return QStringLiteral("leaves nothing to type; correct its length or the \"range\"");
+}
+
+} // namespace
+
+Findings ruleFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    if (!hasValidation(handler, item)) {
+        return { error("no-validation",
+            QStringLiteral("without \"validation\" every text is refused; give it a rule")) };
+    }
+    if (acceptsSomething(handler, item))
+        return {};
+    const QString rule = validation(handler, item);
+    const bool isNumber = rule.startsWith(QLatin1Char('N')) && strictInteger(rule.mid(1));
+    if (isNumber && !hasRange(handler, item)) {
+        return { error("no-range",
+            QStringLiteral("without \"range\" the rule \"%1\" refuses every text; give it the "
+                           "lowest and the highest number")
+                .arg(rule)) };
+    }
+    return { error("dead-rule",
+        QStringLiteral("refuses every text: the rule \"%1\" %2").arg(rule, whyNothingFits(rule))) };
+}

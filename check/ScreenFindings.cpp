@@ -1,0 +1,104 @@
+#include "check/Findings.h"
+
+#include <QScriptValueIterator>
+
+#include <algorithm>
+
+namespace {
+
+bool isRepeated(const LoadedMenu &menu, const QScriptValue &definition)
+{
+    const QScriptValue entries = definition.property(menu.handler.names().screens);
+    return entries.isValid() && entries.property(menu.handler.names().length).toInt32() == 0
+        && (menu.handler.isCompartmentButton(definition) || menu.handler.isMeterButton(definition));
+}
+
+// The css of every screen that the definition leads to.
+QStringList references(const LoadedMenu &menu, const QScriptValue &definition)
+{
+    const PropertyNames &names = menu.handler.names();
+    if (isRepeated(menu, definition)) {
+        return { TreeViewItemHandler::repeatedScreenName(
+            definition.property(names.css).toString()) };
+    }
+    QStringList targets;
+    QScriptValueIterator entry(definition.property(names.screens));
+    while (entry.hasNext()) {
+        entry.next();
+        const QScriptValue css = entry.value().property(names.css);
+        if (css.isValid())
+            targets.push_back(css.toString());
+    }
+    return targets;
+}
+
+bool isWithin(const TreeViewItem *item, const QScriptValue &screen)
+{
+    while (item && !item->definition.strictlyEquals(screen))
+        item = item->parentItem;
+    return item;
+}
+
+} // namespace
+
+Findings referenceFindings(const LoadedMenu &menu, const QScriptValue &definition)
+{
+    Findings findings;
+    for (const QString &css : references(menu, definition)) {
+        if (menu.screens.find(css) < 0) {
+            findings << error(isRepeated(menu, definition) ? "no-template" : "dangling-reference",
+                QStringLiteral("it leads to \"%1\", which does not exist; define that screen, or "
+                               "remove the reference")
+                    .arg(css));
+        }
+    }
+    return findings;
+}
+
+Findings selfReferenceFindings(const LoadedMenu &menu, const TreeViewItem &item)
+{
+    Findings findings;
+    for (const QString &css : references(menu, item.definition)) {
+        const int screen = menu.screens.find(css);
+        if (screen >= 0 && isWithin(&item, menu.screens.at(screen))) {
+            findings << error("self-reference",
+                QStringLiteral("it leads back to \"%1\", which it is part of; remove the reference")
+                    .arg(css));
+        }
+    }
+    return findings;
+}
+
+Finding unreachedFinding(const LoadedMenu &menu, int screen)
+{
+    const QScriptValue css = menu.screens.at(screen).property(menu.handler.names().css);
+    if (css.isValid() && menu.screens.find(css.toString()) != screen) {
+        return error("duplicate-css",
+            QStringLiteral("an earlier screen has the same css and is shown instead; rename this"));
+    }
+    return warning("unreached",
+        QStringLiteral("nothing leads to screen number %1; name its css in the \"screens\" of "
+                       "another, or remove it")
+            .arg(screen));
+}
+
+Findings bindingFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    Findings findings;
+    const auto &children = item.children;
+    const auto isEditable = [&handler](const auto &child) {
+        return handler.isVisible(*child) && handler.isEditable(*child);
+    };
+    if (!handler.hasWriteBinding(item)
+        && std::any_of(children.cbegin(), children.cend(), isEditable)) {
+        findings << error("no-write",
+            QStringLiteral("what is edited in it is not stored; add an \"ajax-write\", or give its "
+                           "items \"remote\" 2"));
+    }
+    if (handler.hasReadBinding(item) && children.empty()) {
+        findings << warning("dead-read",
+            QStringLiteral("its \"ajax-read\" is never used, as there is nothing to open; add the "
+                           "items that it reads, or remove it"));
+    }
+    return findings;
+}

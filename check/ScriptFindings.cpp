@@ -1,0 +1,45 @@
+#include "check/Findings.h"
+
+#include <QFile>
+#include <QTextStream>
+
+namespace {
+
+QString readText(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QTextStream(&file).readAll() : QString();
+}
+
+// Empty when there is none.
+QString scriptError(LoadedMenu &menu)
+{
+    const QScriptSyntaxCheckResult syntax =
+        QScriptEngine::checkSyntax(readText(menu.paths.settingsScript));
+    if (syntax.state() != QScriptSyntaxCheckResult::Valid) {
+        const QString message = syntax.errorMessage();
+        return QStringLiteral("line %1, column %2: %3; correct it, the console shows no menu")
+            .arg(syntax.errorLineNumber())
+            .arg(syntax.errorColumnNumber())
+            .arg(message.isEmpty() ? QStringLiteral("Syntax error") : message);
+    }
+    const QScriptEngine &engine = menu.handler.scriptHelper().scriptEngine();
+    if (engine.hasUncaughtException()) {
+        return QStringLiteral("line %1: %2; correct it, the script ends there")
+            .arg(engine.uncaughtExceptionLineNumber())
+            .arg(engine.uncaughtException().toString());
+    }
+    if (!menu.settings.property(0).isObject()) {
+        return QStringLiteral(
+            "it defines no screens; assign an array of them to \"Settings.settings\"");
+    }
+    return {};
+}
+
+} // namespace
+
+Findings scriptFindings(LoadedMenu &menu)
+{
+    const QString text = scriptError(menu);
+    return text.isEmpty() ? Findings() : Findings { error("script", text) };
+}

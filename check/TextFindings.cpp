@@ -1,0 +1,84 @@
+#include "check/Findings.h"
+
+#include "locale/CTranslationHandler.h"
+#include "render/ForeignText.h"
+#include "render/MenuView.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int terminalColumns = 80;
+constexpr int valueColumn = terminalColumns - terminalColumns / 3;
+
+bool hasLetter(const QString &text)
+{
+    return std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.isLetter(); });
+}
+
+bool isTranslated(const QString &key)
+{
+    const QVariantMap table = CTranslationHandler::instance().translationMap(QStringLiteral("en"));
+    return !table.value(key).toString().isEmpty();
+}
+
+bool canBeShown(uint character)
+{
+    const QString text = QString::fromUcs4(&character, 1);
+    return character <= 0xff && printable(text) == text;
+}
+
+void checkText(Findings &findings, const QString &what, const QString &key)
+{
+    // Numbers and signs stand for themselves.
+    if (hasLetter(key) && !isTranslated(key)) {
+        findings << warning("untranslated",
+            QStringLiteral("the %1 \"%2\" has no translation; add it to the English table")
+                .arg(what, key));
+    }
+    const QString text = translate(key);
+    const QVector<uint> characters = text.toUcs4();
+    const auto *const bad = std::find_if_not(characters.cbegin(), characters.cend(), canBeShown);
+    if (bad != characters.cend()) {
+        findings << warning("unshowable",
+            QStringLiteral("the %1 \"%2\" has the character U+%3, which a Latin-1 terminal cannot "
+                           "show; write it otherwise")
+                .arg(what, text,
+                    QString::number(*bad, 16).toUpper().rightJustified(4, QLatin1Char('0'))));
+    }
+}
+
+int lineLength(const TreeViewItemHandler &handler, const TreeViewItem &item, int depth)
+{
+    Frame lines;
+    int line = 0;
+    QString note;
+    MenuRenderer(handler, terminalColumns, note).renderItemLines(item, line, lines, depth);
+    return lines.value(0).size();
+}
+
+} // namespace
+
+Findings textFindings(const TreeViewItemHandler &handler, const TreeViewItem &item, int depth)
+{
+    Findings findings;
+    const bool isSeparator = handler.isInputKind(item, SeparatorInput);
+    const QString key = handler.labelKey(item);
+    checkText(findings, QStringLiteral("label"), key);
+    if (key.isEmpty() && !isSeparator)
+        findings << warning("no-label", QStringLiteral("it has no label; give it an \"i18n\""));
+
+    const int surplus = lineLength(handler, item, depth) - valueColumn;
+    if (surplus > 0 && !isSeparator && !handler.isInputKind(item, ButtonInput)) {
+        findings << warning("wide-label",
+            QStringLiteral("its label reaches %1 columns into the value on a terminal of %2 "
+                           "columns; shorten it")
+                .arg(surplus)
+                .arg(terminalColumns));
+    }
+    if (handler.isInputKind(item, DropdownInput) || handler.isInputKind(item, SelectLabelInput)) {
+        for (int i = 0, count = handler.valueCount(item); i < count; ++i)
+            checkText(findings, QStringLiteral("option text"), handler.valueAt(item, i).toString());
+    }
+    return findings;
+}
