@@ -18,7 +18,9 @@ bool writeDouble(Writer &writer, double number)
 {
     if (!std::isfinite(number))
         return false;
-    QByteArray digits = QByteArray::number(number, 'g', 20);
+    // The sign of a negative zero is a digit too, but not for the library.
+    QByteArray digits =
+        number == 0 && std::signbit(number) ? "-0" : QByteArray::number(number, 'g', 20);
     if (!digits.contains('.') && !digits.contains('e'))
         digits += ".0";
     return writeRaw(writer, digits, rapidjson::kNumberType);

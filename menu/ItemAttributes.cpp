@@ -99,26 +99,27 @@ bool TreeViewItemHandler::isEditable(const TreeViewItem &item) const
     if (!item.children.empty())
         return false;
     const QScriptValue remote = item.definition.property(propertyNames.remote);
-    if (remote.isValid() && remote.toInt32() == 2)
+    if (remote.isValid() && remote.toNumber() == 2)
         return false;
     const QScriptValue needed = item.definition.property(propertyNames.accessLevel);
-    if (needed.isValid() && integer(needed) > currentAccessLevel)
+    if (needed.isValid() && needed.toNumber() > currentAccessLevel)
         return false;
     return isInputKind(item, DropdownInput) || isInputKind(item, EditInput)
         || isInputKind(item, BooleanInput) || isInputKind(item, SliderInput);
 }
 
+// A page is made for browsers unless it, or what refers to it, says that it is for consoles too;
+// the pages of compartments and meters and what has no type are for both.
 bool TreeViewItemHandler::isVisible(const TreeViewItem &item) const
 {
     const QScriptValue remote = item.definition.property(propertyNames.remote);
-    if (remote.isValid()) {
-        if (remote.toInt32() == 0)
-            return false;
-    } else if (item.definition.property(propertyNames.type).isValid()
-        && !isCompartmentButton(item.referringEntry) && !isMeterButton(item.referringEntry)
-        && item.referringEntry.property(propertyNames.remote).toInt32() == 0) {
+    const QScriptValue decisive =
+        remote.isValid() ? remote : item.referringEntry.property(propertyNames.remote);
+    const bool needsRemote = remote.isValid()
+        || (item.definition.property(propertyNames.type).isValid()
+            && !isCompartmentButton(item.referringEntry) && !isMeterButton(item.referringEntry));
+    if (needsRemote && (!decisive.isValid() || decisive.toNumber() == 0))
         return false;
-    }
     return !isExcluded(item);
 }
 
@@ -202,9 +203,11 @@ QVariant TreeViewItemHandler::databaseValueAt(const TreeViewItem &item, int i) c
 
 int TreeViewItemHandler::indexOfDatabaseValue(const TreeViewItem &item, const QVariant &value) const
 {
+    const QScriptValue values = item.definition.property(propertyNames.dbValues);
     const QString text = value.toString();
     for (int i = 0, count = valueCount(item); i < count; ++i) {
-        if (databaseValueAt(item, i).toString() == text)
+        const QScriptValue entry = values.property(quint32(i));
+        if (entry.isValid() && variant(entry).toString() == text)
             return i;
     }
     return -1;

@@ -8,7 +8,7 @@ static const char table[] = R"(null null | bool true | qlonglong 0 | qlonglong 4
 qlonglong -9223372036854775808 | qlonglong 9223372036854775807 | qulonglong 9223372036854775808
 qulonglong 18446744073709551615 | double 1.0 | double 0.10000000000000000555 | double 1e2 => 100.0
 double 4.9406564584124654418e-324 | double 1.7976931348623157081e+308 | double 1E22 => 1e+22
-double 18446744073709551616 => 18446744073709551616.0 | double 0e5 => 0.0 | QString "a\u0000"
+double 18446744073709551616 => 18446744073709551616.0 | double 0e5 => 0.0 | double -0.0 | QString "a\u0000"
 QString "ß\u00E4\/\"\\\n😀" => "\u00df\u00e4/\"\\\u000a\ud83d\ude00" | QVariantList [ ] => []
 QVariantList [[],[null,[-1 ]]] => [[],[null,[-1]]] | QVariantMap {"ä":1,"ä":{}} => {"\u00e4":{}}
 - [1 | - [1,] | - [1 2] | - [1] x | - {"a"} | - {1:2} | - 'a' | - "\x" | - "a | - nul | - NaN

@@ -53,7 +53,8 @@ QStringList FakeDevice::takeCalls()
     QFile log(directory.filePath(QStringLiteral("calls")));
     if (!log.open(QIODevice::ReadOnly))
         return {};
+    log.seek(callsTaken);
     const QString text = QString::fromUtf8(log.readAll());
-    log.remove();
+    callsTaken = log.pos();
     return text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }

@@ -31,4 +31,5 @@ public:
 private:
     QTemporaryDir directory;
     DevicePaths devicePaths;
+    qint64 callsTaken = 0; ///< bytes of the log
 };
