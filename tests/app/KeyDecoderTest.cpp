@@ -10,12 +10,12 @@ private slots:
     void decodes()
     {
         // The byte 255 stands for the end of input.
-        const std::pair<QByteArray, int> table[] { { "\x1b\x1b", 0x01000000 },
-            { "\x7f", 0x01000003 }, { "\n", 0x01000004 }, { "\x1b[D", 0x01000012 },
-            { "\x1b[A", 0x01000013 }, { "\x1b[C", 0x01000014 }, { "\x1b[B", 0x01000015 },
-            { "\x1b[5~", 0x01000016 }, { "\x1b[6~", 0x01000017 }, { "\x1b[56~", 0x01000017 },
-            { "\x1b[5A", 0x01000013 }, { "\x1b[H", 0x01ffffff }, { "\x1b[6\xff", 0x01ffffff },
-            { "\x1b\x7f", 0x01000003 }, { "\x1bx", 'x' }, { "\x1b\xff", -1 }, { "\xff", -1 } };
+        const std::pair<QByteArray, int> table[] { { "\xff", -1 }, { "\x1b\xff", -1 },
+            { "\x1bx", 'x' }, { "\x1b~", '~' }, { "\x7f", 0x01000003 }, { "\n", 0x01000004 },
+            { "\x1b[D", 0x01000012 }, { "\x1b[A", 0x01000013 }, { "\x1b[C", 0x01000014 },
+            { "\x1b[B", 0x01000015 }, { "\x1b[5~", 0x01000016 }, { "\x1b[6~", 0x01000017 },
+            { "\x1b[56~", 0x01000017 }, { "\x1b[5A", 0x01000013 }, { "\x1b[H", 0x01ffffff },
+            { "\x1b[6\xff", 0x01ffffff }, { "\x1b\x1b", 0x01000000 }, { "\x1b\n", 0x01000004 } };
         for (const auto &[bytes, key] : table) {
             KeyDecoder decoder;
             for (const char byte : bytes.chopped(1))

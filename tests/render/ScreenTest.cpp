@@ -23,7 +23,6 @@ private slots:
         screen.show(frame, 3, { 5, 7 });
         screen.show(frame, 3, { 5, 7 });
         frame[2] = QString::fromUtf8("\u00e4\u00ff\u0100\u20ac");
-        screen.show(frame, 2, { 5, 7 });
         screen.show(frame, 3, { 5, 7 });
         frame = { { 2, frame[2] } };
         screen.moveCursorTo(0, 0);
