@@ -70,7 +70,8 @@ bool BackendTool::isAbandoned() noexcept
 void BackendTool::killRunning() noexcept
 {
     const pid_t tool = runningTool;
-    if (tool > 0 && kill(-tool, SIGKILL) != 0)
+    // 0 and 1 would stand for whole crowds of processes.
+    if (tool > 1 && kill(-tool, SIGKILL) != 0)
         kill(tool, SIGKILL);
 }
 
