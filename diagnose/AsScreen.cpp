@@ -21,13 +21,8 @@ QString sensorRow(
 
 void drawAsScreen(Frame &frame, const QVariantList &answer, QString &statusText)
 {
-    placeLeft(frame, 1, QStringLiteral("AS IF: 1/1"));
-    if (answer.isEmpty())
-        return placeNotAvailable(frame);
-    if (answer.size() == 1)
-        return placeMessage(frame, 2, answer.first().toString());
-    placeVersions(frame, answer);
-
+    if (!placeSingleInterface(frame, "AS IF: 1/1", answer))
+        return;
     const int columnWidth = frame.value(0).size() / 6;
     placeLeft(frame, headerLine,
         sensorRow(

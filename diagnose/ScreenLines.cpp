@@ -36,6 +36,18 @@ void placeVersions(Frame &frame, const QVariantList &interface)
     placeLabelled(frame, hardwareLine, "HW Version: ", interface.value(1));
 }
 
+bool placeSingleInterface(Frame &frame, const char *title, const QVariantList &answer)
+{
+    placeLeft(frame, 1, QLatin1String(title));
+    if (answer.isEmpty())
+        placeNotAvailable(frame);
+    else if (answer.size() == 1)
+        placeMessage(frame, messageLine, answer.first().toString());
+    else
+        placeVersions(frame, answer);
+    return answer.size() > 1;
+}
+
 void placeNotAvailable(Frame &frame)
 {
     placeMessage(frame, messageLine, QStringLiteral("Not Available"));

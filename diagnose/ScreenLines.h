@@ -17,5 +17,9 @@ void placeLabelled(Frame &frame, int line, const char *label, const QVariant &va
 /// Places the versions of an interface's software and hardware on lines 2 and 3.
 void placeVersions(Frame &frame, const QVariantList &interface);
 
+/// Places the first lines of a screen with a single interface: `title`, then its versions, or what
+/// the backend tells in their place. False when the answer holds nothing more to draw.
+bool placeSingleInterface(Frame &frame, const char *title, const QVariantList &answer);
+
 /// Tells that the backend knows no such interface.
 void placeNotAvailable(Frame &frame);

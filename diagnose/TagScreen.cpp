@@ -16,12 +16,8 @@ constexpr std::array<const char *, 9> tagLabels = {
 
 void drawTagScreen(Frame &frame, const QVariantList &versions, const QVariantList &tag)
 {
-    placeLeft(frame, 1, QStringLiteral("TAG IF: 1/1"));
-    if (versions.isEmpty())
-        return placeNotAvailable(frame);
-    if (versions.size() == 1)
-        return placeMessage(frame, 2, versions.first().toString());
-    placeVersions(frame, versions);
+    if (!placeSingleInterface(frame, "TAG IF: 1/1", versions))
+        return;
     if (tag.isEmpty())
         return placeMessage(frame, firstTagLine, QStringLiteral("ERROR"));
     for (int i = 0; i < int(tagLabels.size()); ++i)
