@@ -1,103 +1,13 @@
 // The console on the simulated device: keys in, screen, tool calls and stored values out. Each file
 // in scenarios/ is one session.
-#include "tests/support/Keys.h"
-#include "tests/support/PtySession.h"
-#include "json/JsonReader.h"
+#include "tests/support/DemoSession.h"
 
 #include <QDir>
-#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
 
 constexpr int valueColumn = 54; // on 80 columns
-
-QVariant readJson(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return parseJson(file.readAll()).value_or(QVariant());
-}
-
-class DemoSession : public PtySession {
-public:
-    bool run(const QVariantList &size)
-    {
-        setStandardError(directory.filePath(QStringLiteral("messages")));
-        takeCalls();
-        return start(QStringLiteral(DEMO), { QStringLiteral("--state"), directory.path() },
-                   size.value(0, 24).toInt(), size.value(1, 80).toInt())
-            && waitForText(QStringLiteral("Dravikon ver"));
-    }
-
-    /// Types a key and waits until the console has done all that it is for.
-    bool act(const QByteArray &key) { return press(key) && press(Key::home); }
-
-    /// Acts on keys by their names; what is no name is typed.
-    bool actAll(const QStringList &names)
-    {
-        static const QHash<QString, QByteArray> keys { { QStringLiteral("Up"), Key::up },
-            { QStringLiteral("Down"), Key::down }, { QStringLiteral("Left"), Key::left },
-            { QStringLiteral("Right"), Key::right }, { QStringLiteral("PageUp"), Key::pageUp },
-            { QStringLiteral("PageDown"), Key::pageDown }, { QStringLiteral("Return"), Key::enter },
-            { QStringLiteral("Escape"), Key::escape },
-            { QStringLiteral("Backspace"), Key::backspace } };
-        return std::all_of(names.begin(), names.end(),
-            [this](const QString &name) { return act(keys.value(name, name.toLatin1())); });
-    }
-
-    QString selected() const
-    {
-        for (int row = 0; row < terminal().screen().size(); ++row) {
-            if (terminal().cell(row, 0).background == TerminalEmulator::Background::Magenta)
-                return terminal().row(row);
-        }
-        return {};
-    }
-
-    /// Opens the items of `path`, labels with "/" between, one below the other.
-    bool open(const QString &path)
-    {
-        for (const QString &label : path.split(QLatin1Char('/'))) {
-            QString before;
-            while (!selected().contains(label) && selected() != before) {
-                before = selected();
-                if (!act(Key::down))
-                    return false;
-            }
-            if (!selected().contains(label) || !act(Key::enter))
-                return false;
-        }
-        return true;
-    }
-
-    QString rowWith(const QString &text) const { return terminal().screen().filter(text).value(0); }
-
-    /// The calls of the backend tool since the last question, each with its words in one text.
-    QStringList takeCalls()
-    {
-        QFile log(directory.filePath(QStringLiteral("calls.log")));
-        QStringList calls;
-        if (log.open(QIODevice::ReadWrite)) {
-            while (!log.atEnd())
-                calls += parseJson(log.readLine())->toStringList().join(QLatin1Char(' '));
-            log.resize(0);
-        }
-        return calls;
-    }
-
-    QVariantList stored(const QString &group) const
-    {
-        const QVariantMap state =
-            readJson(directory.filePath(QStringLiteral("state.json"))).toMap();
-        const QVariantMap groups = state.value(QStringLiteral("groups")).toMap();
-        return groups.value(group).toMap().value(QStringLiteral("values")).toList();
-    }
-
-private:
-    QTemporaryDir directory;
-};
 
 } // namespace
 
@@ -124,7 +34,9 @@ void ScenarioTest::scenario()
 {
     QFETCH(QVariantMap, scenario);
     DemoSession session;
-    QVERIFY(session.run(scenario.value(QStringLiteral("size")).toList()));
+    const QVariantList size = scenario.value(QStringLiteral("size")).toList();
+    QVERIFY(
+        session.run(QStringLiteral(DEMO), size.value(0, 24).toInt(), size.value(1, 80).toInt()));
     const QVariantList steps = scenario.value(QStringLiteral("steps")).toList();
     QVERIFY(!steps.isEmpty());
     for (const QVariant &step : steps) {
