@@ -24,5 +24,4 @@ git ls-files -z -- '*.cpp' ':!bench' ':!tests' \
 
 echo "== cppcheck"
 cppcheck --project=build/dev/compile_commands.json --quiet --error-exitcode=1 --inline-suppr \
-    --enable=warning,performance,portability --library=qt --suppress='*:*/build/*' \
-    --suppress=missingIncludeSystem -j 2
+    --enable=warning,performance,portability --library=qt --suppress='*:build/*' -j 2

@@ -1,0 +1,38 @@
+// Runs the benchmarks of single functions.
+#include "locale/CTranslationHandler.h"
+
+#include "tests/support/FakeDevice.h"
+
+#include <QCoreApplication>
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+// As many texts as the translation tables of devices have.
+QByteArray translations()
+{
+    QByteArray table = "{ \"last\": \"\"";
+    for (int number = 0; number < 1000; ++number) {
+        const QByteArray digits = QByteArray::number(number);
+        table += ", \"field_" + digits + "\": \"Field number " + digits + '"';
+    }
+    return table + " }";
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    // The definitions made up here are no device's: what they lack is nobody's concern.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    FakeDevice webInterface;
+    webInterface.setTranslations(translations());
+    CTranslationHandler::setInstanceRoot(webInterface.paths().webRoot);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

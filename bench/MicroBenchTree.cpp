@@ -1,0 +1,101 @@
+// The menu tree: evaluating its definition, building, numbering and rendering it.
+#include "bench/Allocations.h"
+#include "bench/MenuSession.h"
+
+#include "menu/ScreenIndex.h"
+#include "menu/TreeBuilder.h"
+#include "render/MenuView.h"
+
+namespace {
+
+// 100, 1,000 and 10,000 screens.
+void screenCounts(benchmark::internal::Benchmark *bench)
+{
+    bench->RangeMultiplier(10)->Range(100, 10000)->Unit(benchmark::kMillisecond);
+    bench->Complexity(benchmark::oAuto);
+}
+
+void evaluateScript(benchmark::State &state)
+{
+    const QString script = QString::fromLatin1(scriptWithScreens(int(state.range(0))));
+    QScriptEngine engine;
+    const Allocations allocations(state);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(engine.evaluate(script));
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(evaluateScript)->Apply(screenCounts);
+
+void buildTreeOfScreens(benchmark::State &state)
+{
+    FakeDevice device;
+    device.setScript(scriptWithScreens(int(state.range(0))));
+    TreeViewItemHandler handler(device.paths());
+    const QScriptValue settings = handler.scriptHelper().load();
+    const Allocations allocations(state);
+    for (auto _ : state) {
+        const ScreenIndex screens(settings, handler.names());
+        auto root = buildTree(settings.property(0), screens, {}, handler);
+        const Unmeasured scope(state);
+        root.reset();
+    }
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(buildTreeOfScreens)->Apply(screenCounts);
+
+void numberVisibleItems(benchmark::State &state)
+{
+    MenuSession session(scriptWithScreens(int(state.range(0))));
+    session.openAll();
+    const Allocations allocations(state);
+    for (auto _ : state) {
+        QMap<int, TreeViewItem *> items;
+        int counter = 0;
+        session.handler.numberVisibleItems(*session.root, items, counter);
+        benchmark::DoNotOptimize(items);
+    }
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(numberVisibleItems)->Apply(screenCounts);
+
+void renderItemLines(benchmark::State &state)
+{
+    MenuSession session(scriptWithScreens(int(state.range(0))));
+    session.openAll();
+    const Allocations allocations(state);
+    for (auto _ : state) {
+        Frame lines;
+        int line = 0;
+        MenuRenderer(session.handler, 80, session.state.statusText)
+            .renderItemLines(*session.root, line, lines);
+        benchmark::DoNotOptimize(lines);
+    }
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(renderItemLines)->Apply(screenCounts);
+
+template <typename Query> void askOfField(benchmark::State &state, Query query)
+{
+    MenuSession session(scriptWithFields(40));
+    // The third field has the longest way through the kinds: it is a list.
+    const TreeViewItem &item = *session.root->children.at(2);
+    const Allocations allocations(state);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(query(session.handler, item));
+}
+BENCHMARK_CAPTURE(askOfField, labelKey,
+    [](const auto &handler, const auto &item) { return handler.labelKey(item); });
+BENCHMARK_CAPTURE(askOfField, isInputKind,
+    [](const auto &handler, const auto &item) { return handler.isInputKind(item, SliderInput); });
+BENCHMARK_CAPTURE(askOfField, isEditable,
+    [](const auto &handler, const auto &item) { return handler.isEditable(item); });
+BENCHMARK_CAPTURE(askOfField, isVisible,
+    [](const auto &handler, const auto &item) { return handler.isVisible(item); });
+BENCHMARK_CAPTURE(askOfField, diagnoseScreen,
+    [](const auto &handler, const auto &item) { return handler.diagnoseScreen(item); });
+BENCHMARK_CAPTURE(askOfField, valueAt,
+    [](const auto &handler, const auto &item) { return handler.valueAt(item, 1); });
+BENCHMARK_CAPTURE(askOfField, widestValue,
+    [](const auto &handler, const auto &item) { return handler.widestValue(item); });
+
+} // namespace
