@@ -1,0 +1,66 @@
+# Installed files and the Debian package.
+include(GNUInstallDirs)
+
+# Everything in the package carries the time of the commit, so that the same commit gives the same
+# bytes. SOURCE_DATE_EPOCH in the environment overrides it.
+set(epoch "$ENV{SOURCE_DATE_EPOCH}")
+if(NOT epoch)
+    execute_process(COMMAND git -C ${PROJECT_SOURCE_DIR} log -1 --format=%ct
+        OUTPUT_VARIABLE epoch OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET)
+endif()
+if(NOT epoch)
+    string(TIMESTAMP epoch "%s" UTC)
+endif()
+set(ENV{SOURCE_DATE_EPOCH} ${epoch})
+string(TIMESTAMP changelog_date "%a, %d %b %Y %H:%M:%S +0000" UTC)
+
+set(maintainer "Dravikon maintainers <maintainers@dravikon.invalid>")
+set(packaging ${PROJECT_SOURCE_DIR}/packaging)
+set(packaged ${PROJECT_BINARY_DIR}/packaged)
+
+# Manual pages and the change log, compressed as Debian wants them.
+foreach(page dravikon dravikon-menu-check)
+    configure_file(${packaging}/${page}.1 ${packaged}/${page}.1 @ONLY)
+    list(APPEND pages ${packaged}/${page}.1.gz)
+endforeach()
+configure_file(${packaging}/changelog ${packaged}/changelog @ONLY)
+foreach(file IN LISTS pages ITEMS ${packaged}/changelog.gz)
+    string(REGEX REPLACE "\\.gz$" "" plain ${file})
+    add_custom_command(OUTPUT ${file} COMMAND gzip -9nc ${plain} > ${file} DEPENDS ${plain} VERBATIM)
+endforeach()
+add_custom_target(packaged ALL DEPENDS ${pages} ${packaged}/changelog.gz)
+
+install(FILES ${pages} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES ${packaged}/changelog.gz ${packaging}/copyright
+    docs/backend-tool.md docs/installing.md docs/menu-definition.md docs/reliability.md
+    DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY packaging/examples DESTINATION ${CMAKE_INSTALL_DOCDIR}
+    FILE_PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME dravikon)
+set(CPACK_PACKAGE_CONTACT "${maintainer}")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "service console of a truck controller for a text terminal")
+set(CPACK_PACKAGE_DESCRIPTION
+    "Dravikon shows the menu of the controller's web interface on a plain VT100/ANSI
+terminal. It evaluates the web interface's settings script, translates labels
+with its tables, and reads and writes values by the device's backend tool.
+dravikon-menu-check reports what is wrong with a menu definition.")
+set(CPACK_DEBIAN_PACKAGE_SECTION comm)
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE
+    GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+
+# Read by cpack when it runs.
+file(CONFIGURE OUTPUT ${packaged}/Settings.cmake CONTENT "set(ENV{SOURCE_DATE_EPOCH} @epoch@)\n"
+    @ONLY)
+file(CONFIGURE OUTPUT ${packaged}/Times.cmake @ONLY CONTENT
+    "execute_process(COMMAND find \"\${CPACK_TEMPORARY_DIRECTORY}\" -exec touch --no-dereference --date=@@epoch@ {} +
+    COMMAND_ERROR_IS_FATAL ANY)
+")
+set(CPACK_PROJECT_CONFIG_FILE ${packaged}/Settings.cmake)
+set(CPACK_PRE_BUILD_SCRIPTS ${packaged}/Times.cmake)
+include(CPack)

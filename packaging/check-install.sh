@@ -1,0 +1,45 @@
+#!/usr/bin/env bash
+# Installs a package into an empty Debian root, runs it there, removes it, and shows that nothing is
+# left: packaging/check-install.sh PACKAGE.deb (as root; a package for this machine's architecture)
+set -euo pipefail
+package=$(realpath "$1")
+"$(dirname "$0")/../cmake/install-missing.sh" mmdebstrap dpkg-dev
+
+release=$(. /etc/os-release && echo "$VERSION_CODENAME")
+mirror=$(apt-get indextargets --format '$(RELEASE) $(COMPONENT) $(SITE)' 'Created-By: Packages' \
+    | awk -v release="$release" '$1 == release && $2 == "main" { print $3; exit }')
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+root=$work/root
+# The root holds the package's dependencies and nothing else beyond the essential.
+depends=$(dpkg-deb --field "$package" Depends | sed 's/ *([^)]*)//g; s/ *| *[^,]*//g; s/ //g')
+echo "== root with $depends"
+mmdebstrap --quiet --variant=essential --include="$depends" "$release" "$root" \
+    "deb $mirror $release main"
+
+list() {
+    (cd "$root" && find . -path ./proc -prune -o -path ./sys -prune -o -path ./dev -prune \
+        -o -path './var/lib/dpkg/*-old' -o -path ./var/lib/dpkg/status \
+        -o -path './var/log/*' -o -print | sort)
+}
+list > "$work/before"
+
+echo "== install"
+cp "$package" "$root/package.deb"
+chroot "$root" dpkg --install /package.deb
+chroot "$root" dpkg --listfiles dravikon
+status=0
+version=$(chroot "$root" dravikon --version) || status=$?
+echo "$version, status $status"
+[[ $version == Tavrolink-Dravikon-Version:* && $status == 255 ]]
+if chroot "$root" test -x /usr/bin/dravikon-menu-check; then
+    chroot "$root" dravikon-menu-check --version
+fi
+
+echo "== remove"
+chroot "$root" dpkg --purge dravikon
+rm "$root/package.deb"
+list > "$work/after"
+diff "$work/before" "$work/after"
+echo "nothing left"

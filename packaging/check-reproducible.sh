@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# Builds the package of the last commit twice, in different folders, and compares the bytes:
+# packaging/check-reproducible.sh
+set -euo pipefail
+cd "$(dirname "$0")/.."
+cmake/install-missing.sh g++ cmake ninja-build git dpkg-dev qtbase5-dev qtscript5-dev rapidjson-dev
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+SOURCE_DATE_EPOCH=$(git log -1 --format=%ct)
+export SOURCE_DATE_EPOCH
+for folder in one another/and-deeper; do
+    mkdir -p "$work/$folder"
+    git archive HEAD | tar -x -C "$work/$folder"
+    (
+        cd "$work/$folder"
+        cmake --preset release --log-level=WARNING -D DRAVIKON_DEMO=OFF
+        cmake --build --preset release
+        cpack -G DEB --config build/release/CPackConfig.cmake -B package
+    )
+done
+cd "$work"
+sha256sum one/package/*.deb another/and-deeper/package/*.deb
+cmp one/package/*.deb another/and-deeper/package/*.deb
+echo "identical"
