@@ -112,11 +112,15 @@ void PtySession::resize(int rows, int columns)
     ioctl(master, TIOCSWINSZ, &size);
 }
 
+qint64 PtySession::scaled(int timeoutMs)
+{
+    return qint64(timeoutMs) * qMax(1, qEnvironmentVariableIntValue("DRAVIKON_TEST_SLOWDOWN"));
+}
+
 bool PtySession::waitFor(const std::function<bool()> &condition, int timeoutMs)
 {
     constexpr int stepMs = 2;
-    const int slowdown = qMax(1, qEnvironmentVariableIntValue("DRAVIKON_TEST_SLOWDOWN"));
-    const QDeadlineTimer deadline(qint64(timeoutMs) * slowdown);
+    const QDeadlineTimer deadline(scaled(timeoutMs));
     while (!condition()) {
         if (deadline.hasExpired())
             return false;

@@ -45,6 +45,8 @@ public:
     /// Takes output until the condition holds; false when it does not within the time limit in
     /// milliseconds. DRAVIKON_TEST_SLOWDOWN in the environment multiplies every limit.
     bool waitFor(const std::function<bool()> &condition, int timeoutMs = 10000);
+    /// A time limit in milliseconds, as the environment multiplies it.
+    static qint64 scaled(int timeoutMs);
     /// Waits until a row of the screen contains the text.
     bool waitForText(const QString &text);
     /// Waits for the end of the program and takes its last output.
