@@ -28,12 +28,12 @@ int visibleWidth(const QString &line)
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     Bytes bytes(data, size);
-    const int rows = bytes.byte();
-    const int width = bytes.byte() * 2;
+    const int rows = bytes.byte() % 16;
+    const int width = bytes.byte() % 100;
     Frame frame = buildBox(bytes.number(), width, rows);
     expect(frame.size() <= qMax(rows - 2, 0));
     while (!bytes.isEmpty()) {
-        const int line = bytes.byte() % 32;
+        const int line = bytes.byte() % 16;
         switch (bytes.byte() % 4) {
         case 0:
             placeCentred(frame, width, line, printable(bytes.text()), bytes.number());
