@@ -25,9 +25,9 @@ case "$*" in
 *truck_setup) echo '[3,"a","b","c",1,2,3,4,5,6,7,8]' ;;
 *can_fas_wm) echo '[2,2,2,2,2,2,2,2]' ;;
 *seal_status) echo '["i18n_wm_false"]' ;;
-*spd*|*io_*|*wetleg*) echo '[["1.0","2.0",[1,2,3,4,5],[6,7,8]],"busy",[]]' ;;
-*as_int*) echo '["1.0","2.0",[["s1","p1"],["s2","p2"]]]' ;;
-*tag*) echo '[1,2,3,4,5]' ;;
+*diagnose_spd*|*diagnose_io*|*diagnose_wetleg*) echo '[["1.0","2.0",[1,2,3,4,5],[6,7,8]],"busy",[]]' ;;
+*diagnose_as*) echo '["1.0","2.0",[["s1","p1"],["s2","p2"]]]' ;;
+*diagnose_tag*) echo '[1,2,3,4,5]' ;;
 *1\ \[*) echo '[false]' ;;
 *\[*) echo '[true]' ;;
 *) echo '[1,"two",3.5,true,null,"i18n_yes","x",8,9,10,"eleven",12,13,14,15,16,17,18,19,20]' ;;
