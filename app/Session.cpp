@@ -14,6 +14,7 @@
 #include <Version.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 
 namespace {
@@ -65,13 +66,15 @@ int runConsole(const SessionOptions &options)
             QCoreApplication::quit();
         ResizeSignal::open();
     });
-    const int status = QCoreApplication::exec();
+    // The session has no other end than a good one; the loop itself reports a failure when a SIGINT
+    // comes upon its first steps.
+    QCoreApplication::exec();
     ResizeSignal::hold();
     reader.reset();
     const bool toShell = gui->exitToShell();
     gui.reset();
     concludeSession();
-    return toShell ? exitToShellStatus : status;
+    return toShell ? exitToShellStatus : EXIT_SUCCESS;
 }
 
 } // namespace
