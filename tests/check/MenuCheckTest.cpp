@@ -1,9 +1,9 @@
 #include "check/MenuCheck.h"
 #include "locale/CTranslationHandler.h"
 #include "tests/support/FakeDevice.h"
+#include "tests/support/RunProgram.h"
 
 #include <QDir>
-#include <QProcess>
 #include <QtTest>
 
 // menu() makes a first screen that leads to the given ones, f() one with a field labelled A, edit()
@@ -62,10 +62,8 @@ class MenuCheckTest : public QObject {
 
     static QByteArray run(const QStringList &arguments)
     {
-        QProcess checker;
-        checker.start(QStringLiteral(CHECKER), arguments);
-        checker.waitForFinished(-1);
-        return QByteArray::number(checker.exitCode()) + ' ' + checker.readAllStandardOutput();
+        const ProgramResult result = runProgram(QStringLiteral(CHECKER), arguments);
+        return QByteArray::number(result.exitStatus) + ' ' + result.output;
     }
 
 private slots:

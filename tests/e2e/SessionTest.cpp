@@ -1,10 +1,13 @@
 // The console on a terminal, from its start to each of its ends, on good days and bad ones.
 #include "tests/support/DeviceSession.h"
 #include "tests/support/Keys.h"
+#include "tests/support/RunProgram.h"
 #include "json/JsonWriter.h"
 
 #include <QElapsedTimer>
 #include <QtTest>
+
+#include <Version.h>
 
 #include <csignal>
 
@@ -81,7 +84,8 @@ void SessionTest::commandLine()
     const QByteArray usage = "\nDravikon usage:\n==========================\n"
                              "    -h or when wrong parameter this usage\n"
                              "    --version version of this binary\n\n";
-    const QByteArray version = "Tavrolink-Dravikon-Version: 0.7.5\n";
+    const QByteArray version =
+        "Tavrolink-Dravikon-Version: " + QByteArray(consoleVersion.data()) + '\n';
     const QVector<QPair<QByteArrayList, QByteArray>> rows = { { { "--version" }, version },
         { { "--version", "" }, version }, { { "-h" }, usage }, { { "--Version" }, usage },
         { { "-x", "--version" }, usage } };
@@ -89,11 +93,9 @@ void SessionTest::commandLine()
         QStringList arguments;
         for (const QByteArray &argument : row.first)
             arguments += QString::fromLatin1(argument);
-        QProcess process;
-        process.start(QStringLiteral(CONSOLE), arguments);
-        QVERIFY(process.waitForFinished());
-        QCOMPARE(process.exitCode(), 255);
-        QCOMPARE(process.readAllStandardOutput(), row.second);
+        const ProgramResult result = runProgram(QStringLiteral(CONSOLE), arguments);
+        QCOMPARE(result.exitStatus, 255);
+        QCOMPARE(result.output, row.second);
     }
 }
 
@@ -239,16 +241,13 @@ void SessionTest::interrupt()
 void SessionTest::endOfInput()
 {
     const Session session;
-    QProcess process;
-    process.setStandardInputFile(QProcess::nullDevice());
     QElapsedTimer timer;
     timer.start();
-    process.start(console, session.arguments(500));
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitCode(), 0);
+    const ProgramResult result = runProgram(console, session.arguments(500));
+    QCOMPARE(result.exitStatus, 0);
     QVERIFY(timer.elapsed() >= 500);
     // One redraw for the end of input, not one after the other until the session ends.
-    QVERIFY(process.readAllStandardOutput().size() < 2000);
+    QVERIFY(!result.output.isEmpty() && result.output.size() < 2000);
 }
 
 void SessionTest::stopAndContinue()
@@ -262,7 +261,7 @@ void SessionTest::stopAndContinue()
         QStringList { QStringLiteral("-mc"), commands, QStringLiteral("bash"), console }
             + session.arguments(),
         24, 80));
-    QVERIFY(shell.waitForText(QStringLiteral("Dravikon ver: 0.7.5|Setup ver: 7|DBC ver: 1.4.2")));
+    QVERIFY(shell.waitForText(QStringLiteral("|Setup ver: 7|DBC ver: 1.4.2")));
     const QStringList before = shell.terminal().screen();
     QVERIFY(shell.send("\x1a") && shell.waitForText(QStringLiteral("stopped")));
     QCOMPARE(int(shell.attributes().c_lflag & (ICANON | ECHO)), ICANON | ECHO);

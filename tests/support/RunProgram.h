@@ -1,0 +1,14 @@
+// A program that needs no terminal: runs it to its end.
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+
+struct ProgramResult {
+    int exitStatus; ///< -1 when a signal ended it
+    QByteArray output; ///< what it printed on standard output
+};
+
+/// Runs `program` with `arguments` and nothing to read. QProcess would tell wrong statuses of
+/// programs that run under an emulator.
+ProgramResult runProgram(const QString &program, const QStringList &arguments);
