@@ -4,9 +4,11 @@
 
 #include <QtTest>
 
+#include <Version.h>
+
 static const char written[] =
     "\x1b[1;0H\x1b[41mQuenstadel\x1b[K\x1b[0m\x1b[2;0H\x1b[44mDravikon "
-    "ver: 0.7.5|Setup ver: 4 2|DBC ver: 4 2| exit: Key (Q)\x1b[K\x1b[0m & \x1b[3;0H\xe4\xff?? & "
+    "ver: VERSION|Setup ver: 4 2|DBC ver: 4 2| exit: Key (Q)\x1b[K\x1b[0m & \x1b[3;0H\xe4\xff?? & "
     "\x1b[0;0H\x1b[?25h\n & \x1b[1;0H\x1b[2;0H\x1b[5;7H & \x1b[5;7H & \x1b[?25l\n & "
     "\x1b[2J\n & \x1b[3;0H\xe4\xff??";
 
@@ -32,7 +34,8 @@ private slots:
         screen.setCursorVisible(false);
         screen.clear();
         screen.show(frame, 3, { 5, 7 });
-        QCOMPARE(flushes.join(" & "), QByteArray(written));
+        QCOMPARE(
+            flushes.join(" & ").replace(consoleVersion.data(), "VERSION"), QByteArray(written));
     }
 };
 
