@@ -22,6 +22,8 @@ inline QVariant readJson(const QString &path)
 
 class DemoSession : public PtySession {
 public:
+    ~DemoSession() { kill(); }
+
     /// Starts the executable `demo` on a device of its own and waits for the first frame.
     bool run(const QString &demo, int rows = 24, int columns = 80)
     {

@@ -10,6 +10,8 @@ class DeviceSession : public PtySession {
 public:
     FakeDevice device;
 
+    ~DeviceSession() { kill(); }
+
     /// Starts the test session `program`, its messages going to a file, and does not wait for its
     /// first frame.
     bool run(const QString &program, int rows = 24, int columns = 80, int idleMs = 180000)

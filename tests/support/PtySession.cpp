@@ -41,10 +41,7 @@ char *toString(const ExitStatus &status)
 
 PtySession::~PtySession()
 {
-    if (child > 0 && !hasEnded()) {
-        kill(child, SIGKILL);
-        waitpid(child, nullptr, 0);
-    }
+    kill();
     close(master);
     close(slave);
 }
@@ -102,7 +99,15 @@ bool PtySession::press(const QByteArray &key)
 void PtySession::signal(int number)
 {
     if (child > 0 && !hasEnded())
-        kill(child, number);
+        ::kill(child, number);
+}
+
+void PtySession::kill()
+{
+    if (child <= 0)
+        return;
+    signal(SIGKILL);
+    waitForExit();
 }
 
 void PtySession::resize(int rows, int columns)

@@ -40,6 +40,9 @@ public:
     /// Types the bytes of one key in one burst and waits as `type` does.
     bool press(const QByteArray &key);
     void signal(int number);
+    /// Ends the program if it still runs. A session whose program works in a folder of its own does
+    /// this before it removes the folder.
+    void kill();
     void resize(int rows, int columns);
 
     /// Takes output until the condition holds; false when it does not within the time limit in
