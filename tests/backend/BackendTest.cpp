@@ -4,8 +4,7 @@
 
 #include <QtTest>
 
-#include <sys/prctl.h>
-#include <sys/wait.h>
+#include <csignal>
 
 // What the tool does, and what is understood of it: a list, with "yes" when it confirms a write.
 static const char answers[] = R"(echo [true] => [true] yes | echo '[1,"ä"]' => [1,"\u00e4"] yes
@@ -14,6 +13,12 @@ echo x >&2; echo [4]; exit 1 => [4] yes | echo [5]; exec >&-; sleep 0.1 => [5] y
 echo '["i18n_wm_false"]' => ["i18n_wm_false"] yes | echo [false] => [false] | echo [0] => [0]
 echo [] => [] | echo '{"a":1}' => [] | echo true => [] | : => | printf oops => oops
 printf [1, => [1, | printf '[1] x' => [1] x | printf '\377' => �)";
+
+static bool isAlive(pid_t process)
+{
+    QFile file(QStringLiteral("/proc/%1/stat").arg(process));
+    return file.open(QIODevice::ReadOnly) && !file.readAll().contains(") Z ");
+}
 
 class BackendTest : public QObject {
     Q_OBJECT
@@ -79,17 +84,14 @@ private slots:
 
     void killsWhatHangs()
     {
-        QCOMPARE(prctl(PR_SET_CHILD_SUBREAPER, 1), 0); // what a dead tool leaves comes to us
         for (const bool hangs : { true, false }) {
             device.setTool(hangs ? "sleep 60 & echo $$ $!; wait" : "sleep 60 & echo $$ $!");
             const auto pids =
                 BackendTool::run(device.paths().backendTool, {}, hangs ? 2000 : 30000).split(' ');
             const pid_t tool = pids.value(0).toInt(), child = pids.value(1).toInt();
             QVERIFY(tool > 1 && child > 1 && kill(tool, 0) != 0);
-            QVERIFY(hangs || kill(child, SIGTERM) == 0);
-            int status = 0;
-            QCOMPARE(waitpid(child, &status, 0), child);
-            QCOMPARE(WTERMSIG(status), hangs ? SIGKILL : SIGTERM);
+            QTRY_COMPARE(isAlive(child), !hangs);
+            kill(child, SIGKILL);
         }
     }
 
