@@ -1,4 +1,4 @@
-# Installed files and the Debian package.
+# Installed files and the Debian package, the same for the host and for a board.
 include(GNUInstallDirs)
 
 # Everything in the package carries the time of the commit, so that the same commit gives the same
@@ -51,6 +51,12 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+if(DRAVIKON_ARCH)
+    set(CPACK_DEBIAN_PACKAGE_ARCHITECTURE ${DRAVIKON_ARCH})
+    set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
+        ${DRAVIKON_SYSROOT}/usr/lib/${CMAKE_LIBRARY_ARCHITECTURE}
+        ${DRAVIKON_SYSROOT}/lib/${CMAKE_LIBRARY_ARCHITECTURE})
+endif()
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE
     GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 

@@ -5,9 +5,8 @@ set -euo pipefail
 package=$(realpath "$1")
 "$(dirname "$0")/../cmake/install-missing.sh" mmdebstrap dpkg-dev
 
-release=$(. /etc/os-release && echo "$VERSION_CODENAME")
-mirror=$(apt-get indextargets --format '$(RELEASE) $(COMPONENT) $(SITE)' 'Created-By: Packages' \
-    | awk -v release="$release" '$1 == release && $2 == "main" { print $3; exit }')
+source=$("$(dirname "$0")/debian-source.sh")
+read -r _ _ release _ <<< "$source"
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -15,8 +14,7 @@ root=$work/root
 # The root holds the package's dependencies and nothing else beyond the essential.
 depends=$(dpkg-deb --field "$package" Depends | sed 's/ *([^)]*)//g; s/ *| *[^,]*//g; s/ //g')
 echo "== root with $depends"
-mmdebstrap --quiet --variant=essential --include="$depends" "$release" "$root" \
-    "deb $mirror $release main"
+mmdebstrap --quiet --variant=essential --include="$depends" "$release" "$root" "$source"
 
 list() {
     (cd "$root" && find . -path ./proc -prune -o -path ./sys -prune -o -path ./dev -prune \

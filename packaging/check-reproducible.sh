@@ -1,10 +1,16 @@
 #!/usr/bin/env bash
 # Builds the package of the last commit twice, in different folders, and compares the bytes:
-# packaging/check-reproducible.sh
+# packaging/check-reproducible.sh [armhf|arm64] (without a word for this machine; for a board on the
+# sysroot that ./cross.sh has laid)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 cmake/install-missing.sh g++ cmake ninja-build git dpkg-dev qtbase5-dev qtscript5-dev rapidjson-dev
 
+preset=${1:-release}
+if [[ $preset != release ]]; then
+    sysroot=$PWD/build/sysroot/$preset
+    export DPKG_ADMINDIR=$sysroot/var/lib/dpkg
+fi
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 SOURCE_DATE_EPOCH=$(git log -1 --format=%ct)
@@ -14,9 +20,10 @@ for folder in one another/and-deeper; do
     git archive HEAD | tar -x -C "$work/$folder"
     (
         cd "$work/$folder"
-        cmake --preset release --log-level=WARNING -D DRAVIKON_DEMO=OFF
-        cmake --build --preset release
-        cpack -G DEB --config build/release/CPackConfig.cmake -B package
+        cmake --preset "$preset" --log-level=WARNING -D DRAVIKON_DEMO=OFF -D DRAVIKON_TESTS=OFF \
+            ${sysroot:+-D DRAVIKON_SYSROOT="$sysroot"}
+        cmake --build --preset "$preset"
+        cpack -G DEB --config "build/$preset/CPackConfig.cmake" -B package
     )
 done
 cd "$work"

@@ -1,0 +1,23 @@
+#!/usr/bin/env bash
+# Shows that a board's package names its libraries and that its executables start under QEMU on the
+# libraries of a sysroot: packaging/check-board-package.sh PACKAGE.deb SYSROOT
+set -euo pipefail
+package=$1
+sysroot=$2
+
+depends=$(dpkg-deb --field "$package" Depends)
+echo "Depends: $depends"
+[[ $depends == *libc6* && $depends == *libqt5core5a* && $depends == *libqt5script5* ]]
+
+case $(dpkg-deb --field "$package" Architecture) in
+armhf) emulator=qemu-arm-static ;;
+arm64) emulator=qemu-aarch64-static ;;
+esac
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+dpkg-deb --extract "$package" "$work"
+status=0
+version=$("$emulator" -L "$sysroot" "$work/usr/bin/dravikon" --version) || status=$?
+echo "$version, status $status"
+[[ $version == *" $(dpkg-deb --field "$package" Version)" && $status == 255 ]]
+"$emulator" -L "$sysroot" "$work/usr/bin/dravikon-menu-check" --version

@@ -1,0 +1,47 @@
+#!/usr/bin/env bash
+# Lays a folder with the libraries and headers of a Debian architecture, from the release that this
+# machine runs and the mirror that it uses: packaging/lay-sysroot.sh ARCH FOLDER
+set -euo pipefail
+arch=$1
+sysroot=$(realpath -m "$2")
+source=$("$(dirname "$0")/debian-source.sh")
+read -r _ _ release _ <<< "$source"
+
+mkdir -p "${sysroot%/*}"
+work=$(mktemp -d "$sysroot.XXXXXX")
+trap 'rm -rf "$work"' EXIT
+mkdir "$work/root"
+
+# Nothing of the board is run: its packages are only unpacked. They are kept until the end for what
+# they tell of their libraries.
+mmdebstrap --quiet --architectures="$arch" --variant=extract --skip=cleanup/apt \
+    --include=libc6-dev,libstdc++-12-dev,libvterm-dev,qtbase5-dev,qtscript5-dev,rapidjson-dev \
+    "$release" - "$source" \
+    | tar -x -C "$work/root" --exclude=./dev --exclude=./proc --exclude=./sys
+
+# Meta-object code is made on this machine.
+ln -sf /usr/lib/qt5/bin/moc "$work/root/usr/lib/qt5/bin/moc"
+
+# What dpkg-shlibdeps asks for: which package has a library, by its path on this machine, and what
+# that package says of the library's symbols.
+database=$work/root/var/lib/dpkg
+rm -rf "$database"
+mkdir -p "$database/info" "$database/updates"
+echo 1 > "$database/info/format"  # names with architectures
+printf '%s\n' "$(dpkg --print-architecture)" "$arch" > "$database/arch"
+for deb in "$work"/root/var/cache/apt/archives/*.deb; do
+    name=$(dpkg-deb --field "$deb" Package)
+    same=$(dpkg-deb --field "$deb" Multi-Arch)
+    [[ $same == same ]] && name+=:$arch
+    dpkg-deb --ctrl-tarfile "$deb" \
+        | tar -x -C "$work" --wildcards './symbols' './shlibs' 2>/dev/null || true
+    [[ -e $work/symbols || -e $work/shlibs ]] || continue
+    for kind in symbols shlibs; do
+        [[ ! -e $work/$kind ]] || mv "$work/$kind" "$database/info/$name.$kind"
+    done
+    dpkg-deb --fsys-tarfile "$deb" | tar -t | sed "s|^\.|$sysroot|; s|/\$||" \
+        > "$database/info/$name.list"
+    { dpkg-deb --field "$deb" && printf 'Status: install ok installed\n\n'; } >> "$database/status"
+done
+rm -rf "$work/root/var/cache"
+mv "$work/root" "$sysroot"
