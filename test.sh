@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "$0")"
 
 cmake/install-missing.sh \
-    g++ cmake ninja-build pkg-config clang clang-format clang-tidy cppcheck libclang-rt-14-dev \
+    git g++ cmake ninja-build pkg-config clang clang-format clang-tidy cppcheck libclang-rt-14-dev \
     qtbase5-dev qtscript5-dev rapidjson-dev libvterm-dev
 
 echo "== format"
