@@ -4,7 +4,7 @@
 # sysroot that ./cross.sh has laid)
 set -euo pipefail
 cd "$(dirname "$0")/.."
-cmake/install-missing.sh g++ cmake ninja-build git dpkg-dev qtbase5-dev qtscript5-dev rapidjson-dev
+cmake/install-missing.sh g++ cmake ninja-build git dpkg-dev file qtbase5-dev qtscript5-dev rapidjson-dev
 
 preset=${1:-release}
 if [[ $preset != release ]]; then
