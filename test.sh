@@ -19,7 +19,7 @@ for preset in dev asan fuzz; do
 done
 
 echo "== clang-tidy"
-git ls-files -z -- '*.cpp' ':!bench' ':!tests' \
+git ls-files -z -- '*.cpp' ':!bench' \
     | xargs -0 -n 6 -P 2 clang-tidy -p build/dev --quiet 2>/dev/null
 
 echo "== cppcheck"

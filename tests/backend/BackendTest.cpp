@@ -59,7 +59,8 @@ private slots:
         const QScriptValue list = handler.scriptHelper().scriptEngine().evaluate(QStringLiteral(R"([
             {'ajax-read': 'g  a', 'ajax-write': 'set  all'}, {inputType: 'label'}, {}, {inputType:
             'separator'}, {inputType: 'button'}, {'ajax-read': 'g b'}, {'ajax-read': 'g c'}])"));
-        TreeViewItem root({}, {}, nullptr, -1, 0), &c = root.addChild(list.property(6), {}, -1);
+        TreeViewItem root({}, {}, nullptr, -1, 0);
+        TreeViewItem &c = root.addChild(list.property(6), {}, -1);
         TreeViewItem &a = root.addChild(list.property(0), {}, -1);
         for (const quint32 field : { 1, 2, 3, 4 })
             a.addChild(list.property(field), {}, -1);
@@ -88,7 +89,8 @@ private slots:
             device.setTool(hangs ? "sleep 60 & echo $$ $!; wait" : "sleep 60 & echo $$ $!");
             const auto pids =
                 BackendTool::run(device.paths().backendTool, {}, hangs ? 2000 : 30000).split(' ');
-            const pid_t tool = pids.value(0).toInt(), child = pids.value(1).toInt();
+            const pid_t tool = pids.value(0).toInt();
+            const pid_t child = pids.value(1).toInt();
             QVERIFY(tool > 1 && child > 1 && kill(tool, 0) != 0);
             QTRY_COMPARE(isAlive(child), !hangs);
             kill(child, SIGKILL);

@@ -64,10 +64,9 @@ private slots:
             expected[0] = expected[23] = "Quenstadel";
             expected[1] = expected[22] = '+' + QByteArray(columns - 2, '-') + '+';
             for (const QByteArray &text : texts) {
-                int row = 0, column = 0, start = 0;
-                sscanf(text.constData(), "%d %d %n", &row, &column, &start);
-                const QByteArray cells = text.mid(start).trimmed();
-                expected[row].replace(column, cells.size(), cells);
+                const QByteArrayList parts = text.trimmed().split(' ');
+                const QByteArray cells = QByteArrayList(parts.mid(2)).join(' ').trimmed();
+                expected[parts[0].toInt()].replace(parts[1].toInt(), cells.size(), cells);
             }
             for (int row = 0; row < 24; ++row)
                 QCOMPARE(terminal.row(row).toLatin1(), expected[row].left(columns).trimmed());

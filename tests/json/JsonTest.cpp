@@ -22,7 +22,8 @@ private slots:
     {
         for (const QByteArray &line : QByteArray(table).replace('\n', '|').split('|')) {
             const QByteArray row = line.trimmed();
-            const int start = row.indexOf(' ') + 1, end = (row + " => ").indexOf(" => ");
+            const int start = row.indexOf(' ') + 1;
+            const int end = (row + " => ").indexOf(" => ");
             const QByteArray json = row.mid(start, end - start);
             const std::optional<QVariant> value = parseJson(json);
             const QByteArray type = !value ? "-" : value->isValid() ? value->typeName() : "null";

@@ -22,7 +22,8 @@ private slots:
 
     void loads()
     {
-        const QString key = QStringLiteral("dateformat"), language = QStringLiteral("en");
+        const QString key = QStringLiteral("dateformat");
+        const QString language = QStringLiteral("en");
         for (const QByteArray row :
             { R"({"dateformat": "Do.MM.YYYY"} => do.MM.yyyy)", R"({"dateformat": 7} => )",
                 R"({"a": 1} => )", "", R"([{"a": "b"}])", "\"text\"", " ", "{\"a\"", "{} x" }) {
