@@ -1,9 +1,11 @@
 #include "backend/BackendTool.h"
 
+#include "backend/ToolProcess.h"
+
 #include <QDeadlineTimer>
-#include <QProcess>
 
 #include <atomic>
+#include <memory>
 #include <optional>
 
 #include <unistd.h>
@@ -20,16 +22,31 @@ std::optional<sigset_t> toolMask;
 static_assert(std::atomic<bool>::is_always_lock_free && std::atomic<pid_t>::is_always_lock_free,
     "signal handlers use these");
 
-class ToolProcess : public QProcess {
-protected:
-    // Its own process group, so that whatever the tool has started dies with it.
-    void setupChildProcess() override
+// Holds all signals back for a scope.
+class SignalHold {
+public:
+    SignalHold()
     {
-        setpgid(0, 0);
-        if (toolMask)
-            sigprocmask(SIG_SETMASK, &*toolMask, nullptr);
+        sigset_t all;
+        sigfillset(&all);
+        pthread_sigmask(SIG_SETMASK, &all, &maskBefore);
     }
+    ~SignalHold() { pthread_sigmask(SIG_SETMASK, &maskBefore, nullptr); }
+    SignalHold(const SignalHold &) = delete;
+    SignalHold &operator=(const SignalHold &) = delete;
+
+    sigset_t maskBefore;
 };
+
+// A signal that ends the console finds either no tool or its number.
+std::unique_ptr<ToolProcess> start(const QString &program, const QStringList &arguments)
+{
+    const SignalHold hold;
+    auto tool =
+        std::make_unique<ToolProcess>(program, arguments, toolMask.value_or(hold.maskBefore));
+    runningTool = tool->number();
+    return tool;
+}
 
 } // namespace
 
@@ -38,22 +55,17 @@ QByteArray BackendTool::run(const QString &program, const QStringList &arguments
     if (abandoned)
         return {};
     const QDeadlineTimer deadline(timeoutMs);
-    ToolProcess tool;
-    tool.setStandardErrorFile(QProcess::nullDevice());
-    tool.start(program, arguments, QIODevice::ReadWrite);
-    runningTool = pid_t(tool.processId());
-
+    const auto tool = start(program, arguments);
     QByteArray output;
-    while (tool.state() != QProcess::NotRunning && !deadline.hasExpired() && !abandoned
+    while (tool->isRunning() && !deadline.hasExpired() && !abandoned
         && output.size() <= maximumOutput) {
-        tool.waitForReadyRead(int(qMin<qint64>(sliceMs, deadline.remainingTime())));
-        output += tool.readAllStandardOutput();
+        tool->wait(int(qMin<qint64>(sliceMs, deadline.remainingTime())));
+        tool->takeOutput(output);
     }
-    if (tool.state() != QProcess::NotRunning) {
+    if (tool->isRunning())
         killRunning();
-        tool.waitForFinished();
-    }
     runningTool = 0;
+    while (output.size() <= maximumOutput && tool->takeOutput(output)) { }
     return abandoned || output.size() > maximumOutput ? QByteArray() : output;
 }
 

@@ -1,0 +1,137 @@
+#include "backend/ToolProcess.h"
+
+#include <QFile>
+#include <QVector>
+
+#include <array>
+#include <cerrno>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <spawn.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+void closeEnd(int &descriptor)
+{
+    if (descriptor >= 0)
+        close(descriptor);
+    descriptor = -1;
+}
+
+struct Pipe {
+    Pipe()
+    {
+        std::array<int, 2> ends = { -1, -1 };
+        if (pipe2(ends.data(), O_CLOEXEC) == 0) {
+            readEnd = ends[0];
+            writeEnd = ends[1];
+        }
+    }
+
+    int readEnd = -1;
+    int writeEnd = -1;
+};
+
+// What the program finds when it starts.
+class Surroundings {
+public:
+    Surroundings(int input, int output, const sigset_t &signalMask)
+    {
+        posix_spawn_file_actions_init(&files);
+        posix_spawn_file_actions_adddup2(&files, input, STDIN_FILENO);
+        posix_spawn_file_actions_adddup2(&files, output, STDOUT_FILENO);
+        posix_spawn_file_actions_addopen(&files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+        posix_spawnattr_init(&attributes);
+        posix_spawnattr_setpgroup(&attributes, 0);
+        posix_spawnattr_setsigmask(&attributes, &signalMask);
+        // Who started the console may ignore these; few programs get along with that.
+        sigset_t unignored;
+        sigemptyset(&unignored);
+        sigaddset(&unignored, SIGPIPE);
+        sigaddset(&unignored, SIGCHLD);
+        posix_spawnattr_setsigdefault(&attributes, &unignored);
+        posix_spawnattr_setflags(
+            &attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+    }
+
+    ~Surroundings()
+    {
+        posix_spawnattr_destroy(&attributes);
+        posix_spawn_file_actions_destroy(&files);
+    }
+
+    Surroundings(const Surroundings &) = delete;
+    Surroundings &operator=(const Surroundings &) = delete;
+
+    posix_spawn_file_actions_t files;
+    posix_spawnattr_t attributes;
+};
+
+// 0 when it could not be started.
+pid_t start(const QString &program, const QStringList &arguments, const Surroundings &surroundings)
+{
+    QByteArrayList words { QFile::encodeName(program) };
+    for (const QString &argument : arguments)
+        words += argument.toLocal8Bit();
+    QVector<char *> argv;
+    for (QByteArray &word : words)
+        argv += word.data();
+    argv += nullptr;
+    pid_t process = 0;
+    const int error = posix_spawnp(&process, argv.first(), &surroundings.files,
+        &surroundings.attributes, argv.data(), environ);
+    return error == 0 ? process : 0;
+}
+
+} // namespace
+
+ToolProcess::ToolProcess(
+    const QString &program, const QStringList &arguments, const sigset_t &signalMask)
+{
+    Pipe input;
+    Pipe output;
+    if (input.readEnd >= 0 && output.readEnd >= 0)
+        process = start(program, arguments, { input.readEnd, output.writeEnd, signalMask });
+    closeEnd(input.readEnd);
+    closeEnd(output.writeEnd);
+    inputEnd = input.writeEnd;
+    outputEnd = output.readEnd;
+    fcntl(outputEnd, F_SETFL, O_NONBLOCK);
+    running = process > 0;
+    if (running)
+        endNotifier = int(syscall(SYS_pidfd_open, process, 0));
+}
+
+ToolProcess::~ToolProcess()
+{
+    closeEnd(inputEnd);
+    closeEnd(outputEnd);
+    closeEnd(endNotifier);
+    while (process > 0 && waitpid(process, nullptr, 0) < 0 && errno == EINTR) { }
+}
+
+void ToolProcess::wait(int timeoutMs)
+{
+    std::array<pollfd, 2> events = { { { outputEnd, POLLIN, 0 }, { endNotifier, POLLIN, 0 } } };
+    // Linux before 5.3 has no notifiers; there one looks again every millisecond.
+    poll(events.data(), events.size(), endNotifier >= 0 ? timeoutMs : qMin(timeoutMs, 1));
+    // Where ended children are ignored, there is none to wait for then.
+    siginfo_t end = {};
+    const int result = waitid(P_PID, id_t(process), &end, WEXITED | WNOHANG | WNOWAIT);
+    running = result == 0 && end.si_pid == 0;
+}
+
+bool ToolProcess::takeOutput(QByteArray &output)
+{
+    std::array<char, 16384> buffer;
+    const ssize_t length = read(outputEnd, buffer.data(), buffer.size());
+    if (length > 0)
+        output.append(buffer.data(), int(length));
+    else if (length == 0)
+        closeEnd(outputEnd);
+    return length > 0;
+}
