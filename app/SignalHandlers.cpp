@@ -175,6 +175,8 @@ void installRestoringHandlers()
         sigemptyset(&action.sa_mask);
         sigaction(number, &action, &formerActions[size_t(number)]);
     }
+    // A message to a reader that has gone is lost, not the session.
+    setHandler(SIGPIPE, SIG_IGN);
 }
 
 void installSessionHandlers(TerminalGui &gui)

@@ -8,7 +8,7 @@ bool isSessionEnding() noexcept;
 
 /// From now on every signal that ends the program, SIGINT included, first gives the terminal back
 /// in a usable state: attributes, text cursor, colours. A signal that the caller of the program
-/// ignores stays ignored.
+/// ignores stays ignored. SIGPIPE is ignored, too.
 void installRestoringHandlers();
 
 /// SIGWINCH redraws `gui`, SIGINT ends the session; stopping and continuing hand the terminal over

@@ -72,6 +72,7 @@ private slots:
     void interrupt_data();
     void interrupt();
     void endOfInput();
+    void goneReader();
     void stopAndContinue();
     void resizeStorm();
     void burstOfKeys();
@@ -248,6 +249,22 @@ void SessionTest::endOfInput()
     QVERIFY(timer.elapsed() >= 500);
     // One redraw for the end of input, not one after the other until the session ends.
     QVERIFY(!result.output.isEmpty() && result.output.size() < 2000);
+}
+
+void SessionTest::goneReader()
+{
+    Session session;
+    session.device.setScript("throw 5");
+    PtySession shell;
+    // Messages go to a pipe that nobody reads any more.
+    const QString commands =
+        QStringLiteral("mkfifo $0/m; : < $0/m & exec 2> $0/m; wait; exec \"$@\"");
+    QVERIFY(shell.start(QStringLiteral("/bin/bash"),
+        QStringList { QStringLiteral("-c"), commands, session.device.paths().webRoot, console }
+            + session.arguments(),
+        24, 80));
+    QVERIFY(shell.waitForText(QStringLiteral("Dravikon ver")) && shell.send("q"));
+    QCOMPARE(shell.waitForExit(), endedWell);
 }
 
 void SessionTest::stopAndContinue()
