@@ -36,20 +36,20 @@ int sequenceKey(int byte)
 
 std::optional<int> KeyDecoder::feed(int byte)
 {
-    if (keyBuffer.isEmpty()) {
+    if (begun == 0) {
         if (byte != escape)
             return plainKey(byte);
-        keyBuffer += char(byte);
+        begun = 1;
         return std::nullopt;
     }
     if (byte == '~' && pendingKey != Qt::Key_unknown)
         return pendingKey;
-    if (keyBuffer.size() == 1) {
+    if (begun == 1) {
         if (byte == escape)
             return Qt::Key_Escape;
         if (byte != '[')
             return plainKey(byte);
-        keyBuffer += char(byte);
+        begun = 2;
         return std::nullopt;
     }
     // The byte behind "5" or "6" is judged anew: what is no "~" counts as if they were not there.

@@ -1,12 +1,11 @@
 // From typed bytes to keys.
 #pragma once
 
-#include <QByteArray>
 #include <QtCore/qnamespace.h>
 
 #include <optional>
 
-/// Takes the bytes of one key, an escape sequence or a single byte, one by one.
+/// Takes the bytes of one key, an escape sequence or a single byte, one by one. Allocates nothing.
 class KeyDecoder {
 public:
     /// Takes the next byte, 0 to 255, or -1 for the end of input. Returns the key when it is
@@ -15,6 +14,6 @@ public:
     std::optional<int> feed(int byte);
 
 private:
-    QByteArray keyBuffer;
+    int begun = 0; ///< how many bytes of ESC "[" were taken
     int pendingKey = Qt::Key_unknown;
 };

@@ -1,5 +1,7 @@
 #include "app/ResizeSignal.h"
 
+#include <atomic>
+
 namespace {
 
 sigset_t resizeSignal()
@@ -23,34 +25,45 @@ void restore(const sigset_t &before)
     pthread_sigmask(SIG_SETMASK, &before, nullptr);
 }
 
+// Only the session's thread and the handlers on it ask and set this.
+std::atomic<bool> isHeld(false);
+
 } // namespace
 
 sigset_t ResizeSignal::hold()
 {
-    return change(SIG_BLOCK);
+    const sigset_t before = change(SIG_BLOCK);
+    isHeld = true;
+    return before;
 }
 
 void ResizeSignal::open()
 {
+    isHeld = false;
     change(SIG_UNBLOCK);
 }
 
 ResizeSignal::Hold::Hold()
-    : before(change(SIG_BLOCK))
+    : isOutermost(!isHeld)
 {
+    if (isOutermost)
+        before = hold();
 }
 
 ResizeSignal::Hold::~Hold()
 {
+    if (!isOutermost)
+        return;
+    isHeld = false;
     restore(before);
 }
 
 ResizeSignal::Window::Window()
-    : before(change(SIG_UNBLOCK))
 {
+    open();
 }
 
 ResizeSignal::Window::~Window()
 {
-    restore(before);
+    hold();
 }

@@ -13,7 +13,7 @@ sigset_t hold();
 /// Lets SIGWINCH through, one that was held back at once.
 void open();
 
-/// Holds SIGWINCH back for a scope.
+/// Holds SIGWINCH back for a scope; one within another costs nothing.
 class Hold {
 public:
     Hold();
@@ -22,19 +22,17 @@ public:
     Hold &operator=(const Hold &) = delete;
 
 private:
-    const sigset_t before;
+    const bool isOutermost;
+    sigset_t before;
 };
 
-/// Lets SIGWINCH through for a scope.
+/// Lets SIGWINCH through for a scope within a Hold.
 class Window {
 public:
     Window();
     ~Window();
     Window(const Window &) = delete;
     Window &operator=(const Window &) = delete;
-
-private:
-    sigset_t before;
 };
 
 } // namespace ResizeSignal

@@ -28,23 +28,32 @@ void TerminalReader::readChar(int)
 {
     const ResizeSignal::Hold hold;
     idleTimer.start(idleMs);
-    KeyDecoder decoder;
-    std::optional<int> key;
-    while (!key) {
-        const std::optional<int> byte = readByte();
-        if (!byte)
-            return;
-        key = decoder.feed(*byte);
-    }
+    const std::optional<int> key = readKey();
+    if (!key)
+        return;
     if (*key == EOF)
         stdinNotifier->setEnabled(false);
     emit newKeyEvent(static_cast<Qt::Key>(*key));
 }
 
+// Nothing when the session is ending.
+std::optional<int> TerminalReader::readKey()
+{
+    const ResizeSignal::Window window;
+    KeyDecoder decoder;
+    std::optional<int> key;
+    while (!key) {
+        const std::optional<int> byte = readByte();
+        if (!byte)
+            return std::nullopt;
+        key = decoder.feed(*byte);
+    }
+    return key;
+}
+
 // The next byte or EOF; nothing when the session is ending.
 std::optional<int> TerminalReader::readByte()
 {
-    const ResizeSignal::Window window;
     for (;;) {
         if (isSessionEnding())
             return std::nullopt;

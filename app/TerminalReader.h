@@ -31,7 +31,8 @@ public slots:
     void init();
 
 private:
-    std::optional<int> readByte();
+    std::optional<int> readKey();
+    static std::optional<int> readByte();
 
     QSocketNotifier *const stdinNotifier;
     QTimer idleTimer;
