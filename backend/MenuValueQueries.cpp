@@ -127,7 +127,8 @@ bool TreeViewItemHandler::writeItemValues(const TreeViewItem &item)
 // The backend's lists are positional: one value for each child but separators and buttons.
 bool TreeViewItemHandler::isValueBearing(const TreeViewItem &item) const
 {
-    return !isInputKind(item, SeparatorInput) && !isInputKind(item, ButtonInput);
+    const int kind = inputKind(item);
+    return kind != SeparatorInput && kind != ButtonInput;
 }
 
 QVariantList TreeViewItemHandler::collectItemValues(const TreeViewItem &group) const

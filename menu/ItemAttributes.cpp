@@ -1,6 +1,7 @@
 // The attribute queries: what an item's definition says about it.
 #include "menu/TreeViewItemHandler.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
@@ -21,11 +22,16 @@ constexpr std::array<const char *, 7> diagnoseScreens = { "", "btnServiceDiagnos
     "btnServiceDiagnoseTagInterfaces", "btnServiceDiagnoseAsInterfaces",
     "btnServiceDiagnoseLevelInterfaces" };
 
+// The place of the text among `words`; -1 when it is none of them.
 template <size_t size>
-bool isWord(const QScriptValue &value, const std::array<const char *, size> &words, int number)
+int wordNumber(const QScriptValue &value, const std::array<const char *, size> &words)
 {
-    return number >= 0 && number < int(size) && value.isValid()
-        && value.toString() == QLatin1String(words[size_t(number)]);
+    if (!value.isValid())
+        return -1;
+    const QString text = value.toString();
+    const auto word = std::find_if(words.cbegin(), words.cend(),
+        [&text](const char *candidate) { return text == QLatin1String(candidate); });
+    return word == words.cend() ? -1 : int(word - words.cbegin());
 }
 
 int integer(const QScriptValue &value)
@@ -84,14 +90,19 @@ QString TreeViewItemHandler::writeBinding(const TreeViewItem &item) const
     return item.definition.property(propertyNames.write).toString();
 }
 
+int TreeViewItemHandler::inputKind(const TreeViewItem &item) const
+{
+    return wordNumber(item.definition.property(propertyNames.inputType), inputWords);
+}
+
 bool TreeViewItemHandler::isInputKind(const TreeViewItem &item, int kind) const
 {
-    return isWord(item.definition.property(propertyNames.inputType), inputWords, kind);
+    return kind >= 0 && inputKind(item) == kind;
 }
 
 bool TreeViewItemHandler::isType(const TreeViewItem &item, int kind) const
 {
-    return isWord(item.definition.property(propertyNames.type), typeWords, kind);
+    return kind >= 0 && wordNumber(item.definition.property(propertyNames.type), typeWords) == kind;
 }
 
 bool TreeViewItemHandler::isEditable(const TreeViewItem &item) const
@@ -104,8 +115,9 @@ bool TreeViewItemHandler::isEditable(const TreeViewItem &item) const
     const QScriptValue needed = item.definition.property(propertyNames.accessLevel);
     if (needed.isValid() && needed.toNumber() > currentAccessLevel)
         return false;
-    return isInputKind(item, DropdownInput) || isInputKind(item, EditInput)
-        || isInputKind(item, BooleanInput) || isInputKind(item, SliderInput);
+    const int kind = inputKind(item);
+    return kind == DropdownInput || kind == EditInput || kind == BooleanInput
+        || kind == SliderInput;
 }
 
 // A page is made for browsers unless it, or what refers to it, says that it is for consoles too;
@@ -217,10 +229,6 @@ int TreeViewItemHandler::diagnoseScreen(const TreeViewItem &item) const
 {
     if (!isType(item, StatusType))
         return NoInterface;
-    const QScriptValue css = item.definition.property(propertyNames.css);
-    for (int number = SpdInterface; number <= LevelInterface; ++number) {
-        if (isWord(css, diagnoseScreens, number))
-            return number;
-    }
-    return NoInterface;
+    const int screen = wordNumber(item.definition.property(propertyNames.css), diagnoseScreens);
+    return screen < 0 ? int(NoInterface) : screen;
 }

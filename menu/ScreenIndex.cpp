@@ -9,8 +9,11 @@ ScreenIndex::ScreenIndex(const QScriptValue &settings, const PropertyNames &name
         entry.next();
         const QScriptValue screen = entry.value();
         const QScriptValue css = screen.property(names.css);
-        if (css.isValid() && !firstByCss.contains(css.toString()))
-            firstByCss.insert(css.toString(), size());
+        if (css.isValid()) {
+            const QString text = css.toString();
+            if (!firstByCss.contains(text))
+                firstByCss.insert(text, size());
+        }
         screens.push_back(screen);
     }
 }

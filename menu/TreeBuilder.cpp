@@ -48,9 +48,9 @@ private:
 
     int repetitionsOf(const TreeViewItem &item) const
     {
-        if (handler.isMeterButton(item.definition))
+        if (counts.meters > 0 && handler.isMeterButton(item.definition))
             return counts.meters;
-        if (handler.isCompartmentButton(item.definition))
+        if (counts.compartments > 0 && handler.isCompartmentButton(item.definition))
             return counts.compartments;
         return 0;
     }

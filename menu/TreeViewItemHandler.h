@@ -68,6 +68,8 @@ public:
     QString readBinding(const TreeViewItem &item) const;
     bool hasWriteBinding(const TreeViewItem &item) const;
     QString writeBinding(const TreeViewItem &item) const;
+    /// The item's InputKind; -1 when its word is none of them.
+    int inputKind(const TreeViewItem &item) const;
     bool isInputKind(const TreeViewItem &item, int kind) const;
     bool isType(const TreeViewItem &item, int kind) const;
     bool isEditable(const TreeViewItem &item) const;

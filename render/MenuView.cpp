@@ -69,9 +69,10 @@ QString MenuRenderer::marker(const TreeViewItem &item) const
         return QStringLiteral("->");
     if (handler.isEditable(item))
         return QStringLiteral(" *");
-    if (handler.isInputKind(item, ButtonInput))
+    const int kind = handler.inputKind(item);
+    if (kind == ButtonInput)
         return QStringLiteral(" #");
-    if (handler.isInputKind(item, SeparatorInput))
+    if (kind == SeparatorInput)
         return QStringLiteral("  ");
     if (handler.diagnoseScreen(item) != NoInterface)
         return QStringLiteral(" $");
@@ -92,8 +93,8 @@ QString MenuRenderer::valueText(const TreeViewItem &item)
     QString text = item.value.toString();
     if (text.isEmpty())
         return text;
-    const bool isList =
-        handler.isInputKind(item, DropdownInput) || handler.isInputKind(item, SelectLabelInput);
+    const int kind = handler.inputKind(item);
+    const bool isList = kind == DropdownInput || kind == SelectLabelInput;
     return isList && !handler.isInteger(item) ? listText(item) : resolveMarks(text);
 }
 
