@@ -36,20 +36,20 @@ int sequenceKey(int byte)
 
 std::optional<int> KeyDecoder::feed(int byte)
 {
-    if (begun == 0) {
+    if (keyBuffer.empty()) {
         if (byte != escape)
             return plainKey(byte);
-        begun = 1;
+        keyBuffer += char(byte);
         return std::nullopt;
     }
     if (byte == '~' && pendingKey != Qt::Key_unknown)
         return pendingKey;
-    if (begun == 1) {
+    if (keyBuffer.size() == 1) {
         if (byte == escape)
             return Qt::Key_Escape;
         if (byte != '[')
             return plainKey(byte);
-        begun = 2;
+        keyBuffer += char(byte);
         return std::nullopt;
     }
     // The byte behind "5" or "6" is judged anew: what is no "~" counts as if they were not there.

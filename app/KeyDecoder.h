@@ -4,6 +4,7 @@
 #include <QtCore/qnamespace.h>
 
 #include <optional>
+#include <string>
 
 /// Takes the bytes of one key, an escape sequence or a single byte, one by one. Allocates nothing.
 class KeyDecoder {
@@ -14,6 +15,6 @@ public:
     std::optional<int> feed(int byte);
 
 private:
-    int begun = 0; ///< how many bytes of ESC "[" were taken
+    std::string keyBuffer; // short enough never to allocate
     int pendingKey = Qt::Key_unknown;
 };
