@@ -120,8 +120,7 @@ void TerminalGui::openMenu()
 void TerminalGui::numberItems()
 {
     state.visibleItems.clear();
-    state.visibleCount = 0;
-    handler.numberVisibleItems(*root, state.visibleItems, state.visibleCount);
+    handler.numberVisibleItems(*root, state.visibleItems);
 }
 
 void TerminalGui::drawMenu()

@@ -133,6 +133,5 @@ qint64 MenuSession::takeWritten()
 void MenuSession::numberItems()
 {
     state.visibleItems.clear();
-    state.visibleCount = 0;
-    handler.numberVisibleItems(*root, state.visibleItems, state.visibleCount);
+    handler.numberVisibleItems(*root, state.visibleItems);
 }

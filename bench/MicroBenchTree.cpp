@@ -49,9 +49,8 @@ void numberVisibleItems(benchmark::State &state)
     session.openAll();
     const Allocations allocations(state);
     for (auto _ : state) {
-        QMap<int, TreeViewItem *> items;
-        int counter = 0;
-        session.handler.numberVisibleItems(*session.root, items, counter);
+        QVector<TreeViewItem *> items;
+        session.handler.numberVisibleItems(*session.root, items);
         benchmark::DoNotOptimize(items);
     }
     state.SetComplexityN(state.range(0));

@@ -77,15 +77,15 @@ QVariant TreeViewItemHandler::lookUpCount(
 }
 
 void TreeViewItemHandler::numberVisibleItems(
-    TreeViewItem &item, QMap<int, TreeViewItem *> &items, int &counter) const
+    TreeViewItem &item, QVector<TreeViewItem *> &items) const
 {
     if (item.parentItem) {
         if (!isVisible(item))
             return;
-        items.insert(items.cend(), counter++, &item);
+        items.push_back(&item);
     }
     if (!item.parentItem || item.expanded) {
         for (const auto &child : item.children)
-            numberVisibleItems(*child, items, counter);
+            numberVisibleItems(*child, items);
     }
 }

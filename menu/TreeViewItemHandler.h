@@ -5,7 +5,7 @@
 #include "menu/ScriptHelper.h"
 #include "menu/TreeViewItem.h"
 
-#include <QMap>
+#include <QVector>
 
 class ScreenIndex;
 
@@ -48,10 +48,9 @@ public:
     /// broken gives a root without children.
     std::unique_ptr<TreeViewItem> build();
 
-    /// Numbers the visible items from `item` down, depth first through expanded items: stores each
-    /// in `items` under the value of `counter` and advances it. The root gets no number.
-    void numberVisibleItems(
-        TreeViewItem &item, QMap<int, TreeViewItem *> &items, int &counter) const;
+    /// Numbers the visible items from `item` down, depth first through expanded items: appends each
+    /// to `items`, its place there being its line in the menu. The root gets none.
+    void numberVisibleItems(TreeViewItem &item, QVector<TreeViewItem *> &items) const;
 
     ScriptHelper &scriptHelper() { return script; }
     const QString &setupStructureVersion() const { return script.setupStructureVersion(); }

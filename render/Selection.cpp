@@ -30,7 +30,7 @@ void moveSelection(ViewState &state, const TreeViewItemHandler &handler, bool ho
     switch (state.currentView) {
     case MenuView:
         if (!horizontal)
-            state.selectedIndex = within(0, state.visibleCount, state.selectedIndex + distance);
+            state.selectedIndex = within(0, state.visibleCount(), state.selectedIndex + distance);
         break;
     case StartView:
     case EditView:

@@ -4,8 +4,8 @@
 #include "menu/TreeViewItem.h"
 #include "render/Frame.h"
 
-#include <QMap>
 #include <QString>
+#include <QVector>
 
 enum ViewId {
     NoView = -1,
@@ -25,8 +25,7 @@ struct ViewState {
     Frame menuLines; ///< one line per shown item
     bool hasMenuLines = false; ///< menuLines are up to date, though there may be none
     Frame overlayLines; ///< the box over the menu; emptied to have it made anew
-    QMap<int, TreeViewItem *> visibleItems; ///< by line number, from 0, as in menuLines
-    int visibleCount = 0;
+    QVector<TreeViewItem *> visibleItems; ///< by line number, from 0, as in menuLines
     int selectedIndex = 0; ///< the selected line of the menu
 
     int listIndex = 0; ///< vertical: the chosen entry of a list, the shown interface; -1 at opening
@@ -48,6 +47,9 @@ struct ViewState {
         menuLines.clear();
         hasMenuLines = false;
     }
+
+    /// The number of lines of the menu.
+    int visibleCount() const { return visibleItems.size(); }
 
     /// The item on the selected line, null when there is none.
     TreeViewItem *selectedItem() const { return visibleItems.value(selectedIndex); }

@@ -22,14 +22,13 @@ int menuLines(const QByteArray &script)
             open(*child);
     };
     open(*root);
-    QMap<int, TreeViewItem *> items;
-    int count = 0;
-    handler.numberVisibleItems(*root, items, count);
+    QVector<TreeViewItem *> items;
+    handler.numberVisibleItems(*root, items);
     Frame lines;
     QString status;
     int lineCount = 0;
     MenuRenderer(handler, 80, status).renderItemLines(*root, lineCount, lines);
-    return count == lineCount && lines.size() == lineCount ? lineCount : -1;
+    return items.size() == lineCount && lines.size() == lineCount ? lineCount : -1;
 }
 
 } // namespace

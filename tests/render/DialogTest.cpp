@@ -51,7 +51,7 @@ private slots:
             state.currentView = EditView;
             state.termColumns = words[0].toInt();
             state.listIndex = state.dialogValue = -1;
-            state.visibleItems.insert(0, &item);
+            state.visibleItems.push_back(&item);
             state.menuLines.insert(0, QStringLiteral("x"));
             for (int drawing = 0; drawing < 2; ++drawing)
                 state.overlayLines = words[1] == "dropdown" ? listSelector(state, handler, item)
