@@ -54,12 +54,18 @@ void MenuRenderer::renderItemLines(
 
 QString MenuRenderer::itemLine(const TreeViewItem &item, int depth, bool isFirstChild)
 {
+    const int labelColumn = depth * indentation;
+    const int valueColumn = termColumns - termColumns / 3;
+    const QString text = label(item);
+    const QString value = printable(valueText(item));
     QString line;
+    // All lines are kept, so each takes the memory that it needs, and takes it once.
+    line.reserve(qMax(labelColumn + text.size(), value.isEmpty() ? 0 : valueColumn) + value.size());
     if (depth >= 2 && isFirstChild)
-        insertText(line, (depth - 2) * indentation, QStringLiteral(" +"));
-    insertText(line, qMax(depth - 1, 0) * indentation, marker(item));
-    insertText(line, depth * indentation, label(item));
-    insertText(line, termColumns - termColumns / 3, printable(valueText(item)));
+        insertText(line, labelColumn - 2 * indentation, QStringLiteral(" +"));
+    insertText(line, qMax(labelColumn - indentation, 0), marker(item));
+    insertText(line, labelColumn, text);
+    insertText(line, valueColumn, value);
     return line;
 }
 
