@@ -140,6 +140,8 @@ bool TreeViewItemHandler::isExcluded(const TreeViewItem &item) const
     QScriptValue css = item.definition.property(propertyNames.css);
     if (!css.isValid())
         css = item.referringEntry.property(propertyNames.css);
+    if (!css.isValid())
+        return false;
     const QString name = css.toString();
     return name.contains(QLatin1String("TODO")) || name == QLatin1String("btnLoadingplan")
         || name == QLatin1String("btnServiceLoadingplan");

@@ -67,14 +67,16 @@ private:
 
     void addEntries(TreeViewItem &item, const QScriptValue &entries, int index)
     {
+        const bool isArray = entries.isArray();
         QScriptValueIterator entry(entries);
         while (entry.hasNext()) {
             entry.next();
             const QScriptValue definition = entry.value();
             const QScriptValue css = definition.property(names.css);
-            // The "length" of an array comes up as an entry too; it takes the way of a reference
-            // to the screen without a name, where the web interface looks for one.
-            if (!css.isValid() && entry.scriptName() != names.length) {
+            // The "length" of an array, always a number, comes up as an entry too; it takes the way
+            // of a reference to the screen without a name, where the web interface looks for one.
+            const bool mayBeLength = !isArray || definition.isNumber();
+            if (!css.isValid() && !(mayBeLength && entry.scriptName() == names.length)) {
                 item.addChild(definition, QScriptValue(), index);
                 ++itemCount;
                 continue;
