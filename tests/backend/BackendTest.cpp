@@ -102,6 +102,9 @@ private slots:
         device.setTool("head -c $1 /dev/zero");
         QCOMPARE(handler.scriptHelper().run({ QStringLiteral("16777216") }).size(), 16777216);
         QCOMPARE(handler.scriptHelper().run({ QStringLiteral("16777217") }).size(), 0);
+        signal(SIGCHLD, SIG_IGN);
+        QCOMPARE(handler.scriptHelper().run({ QStringLiteral("5") }).size(), 5);
+        signal(SIGCHLD, SIG_DFL);
         device.setScript("not executable");
         for (const char *name : { "/settings.js", "/locales", "/none" })
             QCOMPARE(
