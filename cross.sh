@@ -58,6 +58,7 @@ DRAVIKON_TEST_SLOWDOWN=${DRAVIKON_TEST_SLOWDOWN:-10} \
 
 if [[ $package == yes ]]; then
     echo "== package"
+    rm -rf "build/$arch/package"
     # The libraries' packages are those of the sysroot.
     DPKG_ADMINDIR=$sysroot/var/lib/dpkg cpack -G DEB --config "build/$arch/CPackConfig.cmake" \
         -B "build/$arch/package"
