@@ -6,6 +6,8 @@
 #include "menu/TreeBuilder.h"
 #include "render/MenuView.h"
 
+#include <vector>
+
 namespace {
 
 // 100, 1,000 and 10,000 screens.
@@ -13,6 +15,27 @@ void screenCounts(benchmark::internal::Benchmark *bench)
 {
     bench->RangeMultiplier(10)->Range(100, 10000)->Unit(benchmark::kMillisecond);
     bench->Complexity(benchmark::oAuto);
+}
+
+void screenCountsFromCold(benchmark::internal::Benchmark *bench)
+{
+    screenCounts(bench);
+    bench->Iterations(20); // what is not measured takes most of the time
+}
+
+// Leaves nothing that is of use in the processor's caches, as at the start of a session. What is
+// small would else be measured within them, what is large beyond them.
+void chillCaches(benchmark::State &state, bool cold)
+{
+    if (!cold)
+        return;
+    constexpr size_t moreThanAnyCache = 128 * 1024 * 1024;
+    constexpr size_t cacheLine = 64;
+    const Unmeasured scope(state);
+    static std::vector<char> filler(moreThanAnyCache);
+    for (size_t i = 0; i < filler.size(); i += cacheLine)
+        ++filler[i];
+    benchmark::DoNotOptimize(filler.data());
 }
 
 void evaluateScript(benchmark::State &state)
@@ -26,7 +49,7 @@ void evaluateScript(benchmark::State &state)
 }
 BENCHMARK(evaluateScript)->Apply(screenCounts);
 
-void buildTreeOfScreens(benchmark::State &state)
+void buildTreeOfScreens(benchmark::State &state, bool cold)
 {
     FakeDevice device;
     device.setScript(scriptWithScreens(int(state.range(0))));
@@ -34,6 +57,7 @@ void buildTreeOfScreens(benchmark::State &state)
     const QScriptValue settings = handler.scriptHelper().load();
     const Allocations allocations(state);
     for (auto _ : state) {
+        chillCaches(state, cold);
         const ScreenIndex screens(settings, handler.names());
         auto root = buildTree(settings.property(0), screens, {}, handler);
         const Unmeasured scope(state);
@@ -41,28 +65,32 @@ void buildTreeOfScreens(benchmark::State &state)
     }
     state.SetComplexityN(state.range(0));
 }
-BENCHMARK(buildTreeOfScreens)->Apply(screenCounts);
+BENCHMARK_CAPTURE(buildTreeOfScreens, warm, false)->Apply(screenCounts);
+BENCHMARK_CAPTURE(buildTreeOfScreens, cold, true)->Apply(screenCountsFromCold);
 
-void numberVisibleItems(benchmark::State &state)
+void numberVisibleItems(benchmark::State &state, bool cold)
 {
     MenuSession session(scriptWithScreens(int(state.range(0))));
     session.openAll();
     const Allocations allocations(state);
     for (auto _ : state) {
+        chillCaches(state, cold);
         QVector<TreeViewItem *> items;
         session.handler.numberVisibleItems(*session.root, items);
         benchmark::DoNotOptimize(items);
     }
     state.SetComplexityN(state.range(0));
 }
-BENCHMARK(numberVisibleItems)->Apply(screenCounts);
+BENCHMARK_CAPTURE(numberVisibleItems, warm, false)->Apply(screenCounts);
+BENCHMARK_CAPTURE(numberVisibleItems, cold, true)->Apply(screenCountsFromCold);
 
-void renderItemLines(benchmark::State &state)
+void renderItemLines(benchmark::State &state, bool cold)
 {
     MenuSession session(scriptWithScreens(int(state.range(0))));
     session.openAll();
     const Allocations allocations(state);
     for (auto _ : state) {
+        chillCaches(state, cold);
         Frame lines;
         int line = 0;
         MenuRenderer(session.handler, 80, session.state.statusText)
@@ -71,7 +99,8 @@ void renderItemLines(benchmark::State &state)
     }
     state.SetComplexityN(state.range(0));
 }
-BENCHMARK(renderItemLines)->Apply(screenCounts);
+BENCHMARK_CAPTURE(renderItemLines, warm, false)->Apply(screenCounts);
+BENCHMARK_CAPTURE(renderItemLines, cold, true)->Apply(screenCountsFromCold);
 
 template <typename Query> void askOfField(benchmark::State &state, Query query)
 {
