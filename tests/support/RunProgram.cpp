@@ -7,7 +7,7 @@
 
 ProgramResult runProgram(const QString &program, const QStringList &arguments)
 {
-    QByteArray command;
+    QByteArray command = "exec ";
     for (QString word : QStringList(program) + arguments)
         command +=
             '\'' + word.replace(QLatin1Char('\''), QLatin1String(R"('\'')")).toLocal8Bit() + "' ";

@@ -5,7 +5,7 @@
 #include <QStringList>
 
 struct ProgramResult {
-    int exitStatus; ///< -1 when a signal ended it
+    int exitStatus; ///< 127 when it cannot be started, -1 when a signal ended it
     QByteArray output; ///< what it printed on standard output
 };
 
