@@ -15,6 +15,6 @@ public:
     std::optional<int> feed(int byte);
 
 private:
-    std::string keyBuffer; // short enough never to allocate
+    std::string keyBuffer; ///< two bytes at most: never allocates
     int pendingKey = Qt::Key_unknown;
 };
