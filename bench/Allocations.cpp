@@ -45,7 +45,7 @@ void operator delete(void *memory, size_t) noexcept
     std::free(memory);
 }
 
-// Qt's containers and the script engine pass by operator new.
+// Qt's containers and the script engine call malloc, not operator new.
 extern "C" {
 
 void *malloc(size_t size) noexcept

@@ -3,8 +3,8 @@
 
 #include <benchmark/benchmark.h>
 
-/// Reports what is allocated during its life as the counters "allocations" and "bytes" of one
-/// iteration. There is one at a time.
+/// Counts what is allocated during its lifetime and reports it as the counters "allocations" and
+/// "bytes", per iteration. Only one may exist at a time.
 class Allocations {
 public:
     explicit Allocations(benchmark::State &state);
@@ -16,7 +16,7 @@ private:
     benchmark::State &state;
 };
 
-/// Takes neither time nor allocations of a scope into account.
+/// Excludes a scope from the measured time and from the counted allocations.
 class Unmeasured {
 public:
     explicit Unmeasured(benchmark::State &state);

@@ -1,4 +1,4 @@
-// The menu of a made-up device, drawn into memory the way the session draws it on a terminal.
+// The menu of a generated definition, drawn into memory as the session draws it on a terminal.
 #include "bench/MenuSession.h"
 
 #include "backend/BackendTool.h"

@@ -1,4 +1,4 @@
-// The menu of a made-up device, drawn into memory the way the session draws it on a terminal.
+// The menu of a generated definition, drawn into memory as the session draws it on a terminal.
 #pragma once
 
 #include "menu/TreeViewItemHandler.h"
@@ -9,15 +9,15 @@
 
 #include <memory>
 
-/// A settings script with `count` screens, 20 at least: a tenth of them hold references to the
-/// others, which stand at the end of the array and hold three fields each.
+/// A settings script with `count` screens, at least 20: a tenth of them hold references to the
+/// others, which are at the end of the array and hold three fields each.
 QByteArray scriptWithScreens(int count);
 
 /// A settings script whose root holds `count` fields.
 QByteArray scriptWithFields(int count);
 
-/// Goes through the same steps as the session does for a key. No tool is run: what is measured is
-/// the console's own part.
+/// Takes the same steps as the session does for a key, but runs no tool: this measures the console's
+/// own work.
 class MenuSession {
 public:
     explicit MenuSession(const QByteArray &script);
@@ -34,7 +34,7 @@ public:
     /// Opens or closes the selected item and draws.
     void toggle();
 
-    /// Bytes written since the last question.
+    /// The number of bytes written since the last call.
     qint64 takeWritten();
 
     FakeDevice device;

@@ -9,7 +9,7 @@
 
 namespace {
 
-// As many texts as the translation tables of devices have.
+// The number of texts in a typical translation table.
 QByteArray translations()
 {
     QByteArray table = "{ \"last\": \"\"";
@@ -25,7 +25,7 @@ QByteArray translations()
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    // The definitions made up here are no device's: what they lack is nobody's concern.
+    // Warnings about the generated definitions are of no interest.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     FakeDevice webInterface;
     webInterface.setTranslations(translations());

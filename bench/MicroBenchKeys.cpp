@@ -1,4 +1,4 @@
-// Keys in the menu, from their dispatch to the bytes that leave.
+// Keys in the menu, from their dispatch to the bytes written.
 #include "bench/Allocations.h"
 #include "bench/MenuSession.h"
 
@@ -30,7 +30,7 @@ BENCHMARK_CAPTURE(moveAndBack, line, 1)->Apply(itemCounts);
 BENCHMARK_CAPTURE(moveAndBack, page, -22)->Apply(itemCounts);
 BENCHMARK_CAPTURE(moveAndBack, nowhere, 0)->Apply(itemCounts);
 
-// Opens and closes a screen of three fields, all else being open.
+// Opens and closes a screen of three fields; all other screens are open.
 void toggleScreen(benchmark::State &state)
 {
     MenuSession session(scriptWithScreens(int(state.range(0))));

@@ -49,7 +49,7 @@ void translateWithTable(benchmark::State &state)
 }
 BENCHMARK(translateWithTable);
 
-// The files are looked for again with every text.
+// Without a table, the file is searched for again for each text.
 void translateWithoutTable(benchmark::State &state)
 {
     CTranslationHandler handler(QStringLiteral("/nonexistent"));

@@ -20,11 +20,11 @@ void screenCounts(benchmark::internal::Benchmark *bench)
 void screenCountsFromCold(benchmark::internal::Benchmark *bench)
 {
     screenCounts(bench);
-    bench->Iterations(20); // what is not measured takes most of the time
+    bench->Iterations(20); // most of the time goes into the unmeasured preparation
 }
 
-// Leaves nothing that is of use in the processor's caches, as at the start of a session. What is
-// small would else be measured within them, what is large beyond them.
+// Evicts all data from the processor's caches, as at the start of a session. Otherwise a small menu
+// would be measured in the caches and a large one out of them.
 void chillCaches(benchmark::State &state, bool cold)
 {
     if (!cold)
@@ -105,7 +105,7 @@ BENCHMARK_CAPTURE(renderItemLines, cold, true)->Apply(screenCountsFromCold);
 template <typename Query> void askOfField(benchmark::State &state, Query query)
 {
     MenuSession session(scriptWithFields(40));
-    // The third field has the longest way through the kinds: it is a list.
+    // The third field is a list, the input kind that takes the most work.
     const TreeViewItem &item = *session.root->children.at(2);
     const Allocations allocations(state);
     for (auto _ : state)

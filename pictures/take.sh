@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Takes all pictures of the documents anew, into docs/pictures.
+# Takes all pictures of the documents again, into docs/pictures.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 cmake/install-missing.sh g++ cmake ninja-build pkg-config \

@@ -18,7 +18,7 @@ fs::path makeDirectory()
     return name;
 }
 
-// The arguments in a line of the record: a JSON list of texts without quotes in them.
+// The arguments in a line of the log: a JSON array of texts that contain no quotes.
 Command argumentsIn(const std::string &line)
 {
     Command arguments;

@@ -5,7 +5,7 @@
 
 #include <filesystem>
 
-/// A directory that is gone with the object.
+/// A temporary directory, removed by the destructor.
 class TemporaryDirectory {
 public:
     TemporaryDirectory();
@@ -16,7 +16,7 @@ public:
     const std::filesystem::path path;
 };
 
-/// The simulated device of the demo, with a record of the calls of its tool.
+/// The simulated device of the demo, with a log of the calls of its tool.
 class DemoDevice {
 public:
     DemoDevice();
@@ -24,10 +24,10 @@ public:
     /// The console on this device.
     Command console() const;
 
-    /// Writes the calls from now on down, or does so no longer.
+    /// Starts or stops logging the calls.
     void recordCalls(bool on);
 
-    /// The recorded calls since the last question, as commands that repeat them.
+    /// The calls logged since the last query, as commands that repeat them.
     std::vector<Command> takeCalls();
 
 private:
@@ -37,7 +37,7 @@ private:
 /// A device with a single page of fields.
 class LargeDevice {
 public:
-    /// How its definition is written: a loop that makes the fields, or every field by itself.
+    /// Whether its definition makes the fields in a loop or spells each one out.
     enum Definition { Loop, SpelledOut };
 
     LargeDevice(int items, Definition definition);

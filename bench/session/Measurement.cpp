@@ -1,4 +1,4 @@
-// What is measured of a program.
+// Measures the start, the keys and the idle time of a program.
 #include "bench/session/Measurement.h"
 
 #include <unistd.h>
@@ -19,7 +19,7 @@ void add(Key &key, const Reply &reply)
     key.bytes.push_back(double(reply.bytes.size()));
 }
 
-// Types a key and what takes it back, in turn.
+// Alternates a key and the key that reverts it.
 void measurePair(Program &program, const std::string &there, const std::string &back, int count,
     Key &key, Key &backKey)
 {

@@ -1,14 +1,14 @@
-// What is measured of a program.
+// Measures the start, the keys and the idle time of a program.
 #pragma once
 
 #include "bench/session/Program.h"
 #include "bench/session/Statistics.h"
 
-/// How a program is called in the report, and how it is measured.
+/// The name of a program in the report, and how it is measured.
 struct Subject {
     std::string name;
     Command command;
-    std::string closeKey; ///< takes back what Return does; empty when Return is not measured
+    std::string closeKey; ///< reverts what Return does; empty: Return is not measured
 };
 
 struct Start {
@@ -20,7 +20,7 @@ struct Start {
 struct Key {
     Samples us;
     Samples bytes;
-    double cpuUs = 0; ///< a key, the way there and the way back together
+    double cpuUs = 0; ///< of a key and the key that reverts it, together
     double writes = 0;
 };
 
@@ -35,7 +35,7 @@ struct Keys {
 /// Starts the program once.
 void measureStart(const Subject &subject, Start &start);
 
-/// Types each key `count` times and takes it back, and adds the answers to those of `keys`.
+/// Types each key and the key that reverts it `count` times, and adds the answers to `keys`.
 void measureKeys(const Subject &subject, int count, Keys &keys);
 
 /// What the program uses in five seconds without a key.

@@ -81,7 +81,7 @@ std::string nameOf(const Command &call)
     return name;
 }
 
-// Runs of the tool that follow each other: each by itself, and all of them.
+// Consecutive runs of the tool: the time of each, and the total.
 struct ToolRuns {
     std::vector<Command> calls;
     std::vector<Samples> us;
@@ -161,7 +161,7 @@ public:
 
     void printStarts()
     {
-        // In turns, so that whatever disturbs the machine disturbs all.
+        // In turns, so that a disturbance of the machine affects all programs alike.
         Samples empty;
         Start floor;
         std::vector<Start> starts(consoles.size());
@@ -229,7 +229,7 @@ private:
             row(twoRows.name, floor.us, 0, unit, median(floor.bytes));
         for (size_t i = 0; i < consoles.size(); ++i) {
             const Key &measured = keys[i].*key;
-            // The runs of the tool are the demo device's.
+            // The calls were logged on the demo device.
             const bool hasFloor = !floor.us.empty() || i == 0;
             if (!measured.us.empty()) {
                 row(consoles[i].name, measured.us, hasFloor ? floorUs : 0, unit,

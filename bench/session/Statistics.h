@@ -1,4 +1,4 @@
-// What a row of measurements says.
+// Statistics of a series of samples.
 #pragma once
 
 #include <algorithm>
@@ -6,7 +6,7 @@
 
 using Samples = std::vector<double>;
 
-/// The sample below which the share `part` of the others lies; 0 without samples.
+/// The quantile `part` (0 to 1) of the samples; 0 without samples.
 inline double quantile(Samples samples, double part)
 {
     if (samples.empty())
