@@ -1,18 +1,18 @@
 #!/usr/bin/env bash
-# Builds Dravikon for a board on this machine and passes all tests with the board's executables,
-# after installing what is missing for that.
+# Cross-compiles Dravikon for a board and runs all tests with the board's executables. Installs the
+# packages that this needs first.
 set -euo pipefail
 
 help() {
     cat <<'END'
 Usage: ./cross.sh [armhf|arm64] [--package] [--help]
 
-On Debian 12, lays a sysroot with the board's libraries in build/sysroot/ARCH,
-cross-compiles the release in build/ARCH and passes the unit tests and the
-sessions on a terminal with the board's executables under QEMU. Without a word
-the board is armhf. The sysroot is laid once: remove it to have it laid anew.
+On Debian 12, makes a sysroot with the board's libraries in build/sysroot/ARCH,
+cross-compiles the release in build/ARCH and runs all tests with the board's
+executables under QEMU. The default architecture is armhf. An existing sysroot
+is used again; remove it to make a new one.
 
-  --package  leave the board's Debian package in build/ARCH/package as well
+  --package  also make the board's Debian package, in build/ARCH/package
 
 DRAVIKON_TEST_SLOWDOWN in the environment multiplies the time limits of the
 tests (10).
@@ -41,7 +41,7 @@ sysroot=$PWD/build/sysroot/$arch
 
 if [[ ! -d $sysroot ]]; then
     echo "== sysroot"
-    packaging/lay-sysroot.sh "$arch" "$sysroot"
+    packaging/make-sysroot.sh "$arch" "$sysroot"
 fi
 
 echo "== build"
@@ -49,8 +49,8 @@ cmake --preset "$arch" --log-level=WARNING
 cmake --build --preset "$arch"
 
 echo "== tests"
-# An emulated program that goes wrong must not reach other processes of this machine: where the
-# system lets them, the tests see only their own.
+# A faulty emulated program must not signal other processes of this machine: where the system
+# permits it, the tests run in a PID namespace of their own.
 isolated=(unshare --user --map-root-user --pid --fork --kill-child --mount-proc)
 "${isolated[@]}" true 2>/dev/null || isolated=()
 DRAVIKON_TEST_SLOWDOWN=${DRAVIKON_TEST_SLOWDOWN:-10} \
@@ -59,7 +59,7 @@ DRAVIKON_TEST_SLOWDOWN=${DRAVIKON_TEST_SLOWDOWN:-10} \
 if [[ $package == yes ]]; then
     echo "== package"
     rm -rf "build/$arch/package"
-    # The libraries' packages are those of the sysroot.
+    # The package's dependencies come from the sysroot's packages.
     DPKG_ADMINDIR=$sysroot/var/lib/dpkg cpack -G DEB --config "build/$arch/CPackConfig.cmake" \
         -B "build/$arch/package"
     packaging/check-board-package.sh "build/$arch/package"/dravikon_*_"$arch".deb "$sysroot"

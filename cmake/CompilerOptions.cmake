@@ -13,14 +13,14 @@ add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_DEPRECATED_
     QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
 
 if(DRAVIKON_SANITIZE)
-    # RapidJSON adds an offset to a null pointer when it first uses its stack; the end of input is
-    # the key -1, which travels as a Qt::Key.
+    # pointer-overflow: RapidJSON adds an offset to a null pointer when it first uses its stack.
+    # enum: the end of input is the key -1, which is passed as a Qt::Key.
     add_compile_options(-fsanitize=${DRAVIKON_SANITIZE} -fno-sanitize=pointer-overflow,enum
         -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${DRAVIKON_SANITIZE})
 endif()
 
-# A release is small and hard to attack: unused sections go, symbols go, relocations are read-only.
+# A release is small and hardened: no unused sections, no symbols, read-only relocations.
 add_compile_options("$<$<CONFIG:Release>:-O2;-ffunction-sections;-fdata-sections>")
 add_compile_definitions("$<$<CONFIG:Release>:_FORTIFY_SOURCE=2>")
 add_link_options("$<$<CONFIG:Release>:-s;-Wl,--gc-sections;-Wl,-z,relro;-Wl,-z,now>")

@@ -1,8 +1,8 @@
-# Installed files and the Debian package, the same for the host and for a board.
+# Installed files and the Debian package, for the host and for the boards.
 include(GNUInstallDirs)
 
-# Everything in the package carries the time of the commit, so that the same commit gives the same
-# bytes. SOURCE_DATE_EPOCH in the environment overrides it.
+# All files of the package have the time of the commit, so that the same commit gives the same
+# package. SOURCE_DATE_EPOCH in the environment overrides that time.
 set(epoch "$ENV{SOURCE_DATE_EPOCH}")
 if(NOT epoch)
     execute_process(COMMAND git -C ${PROJECT_SOURCE_DIR} log -1 --format=%ct
@@ -18,7 +18,7 @@ set(maintainer "Dravikon maintainers <maintainers@dravikon.invalid>")
 set(packaging ${PROJECT_SOURCE_DIR}/packaging)
 set(packaged ${PROJECT_BINARY_DIR}/packaged)
 
-# Manual pages and the change log, compressed as Debian wants them.
+# Manual pages and the changelog, compressed as Debian requires.
 foreach(page dravikon dravikon-menu-check)
     configure_file(${packaging}/${page}.1 ${packaged}/${page}.1 @ONLY)
     list(APPEND pages ${packaged}/${page}.1.gz)
@@ -60,7 +60,7 @@ endif()
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE
     GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
-# Read by cpack when it runs.
+# cpack reads these when it runs.
 file(CONFIGURE OUTPUT ${packaged}/Settings.cmake CONTENT "set(ENV{SOURCE_DATE_EPOCH} @epoch@)\n"
     @ONLY)
 file(CONFIGURE OUTPUT ${packaged}/Times.cmake @ONLY CONTENT

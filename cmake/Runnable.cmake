@@ -1,5 +1,5 @@
-# dravikon_runnable(RESULT TARGET): sets RESULT to the path by which programs start the executable
-# TARGET. In a build for a board that is a script that starts it under the emulator. Once a target.
+# dravikon_runnable(RESULT TARGET): sets RESULT to the path that starts the executable TARGET. In a
+# cross build that is a script that runs it in the emulator. Call it once per target.
 function(dravikon_runnable result target)
     set(path "$<TARGET_FILE:${target}>")
     if(CMAKE_CROSSCOMPILING_EMULATOR)

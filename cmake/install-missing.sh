@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs those of the named Debian packages that are missing; with sudo when not root.
+# Installs those of the given Debian packages that are missing; with sudo when not root.
 # Usage: cmake/install-missing.sh PACKAGE...
 set -euo pipefail
 

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Shows that a board's package names its libraries and that its executables start under QEMU on the
-# libraries of a sysroot: packaging/check-board-package.sh PACKAGE.deb SYSROOT
+# Checks that a board's package depends on its libraries and that its executables start under QEMU
+# with the libraries of a sysroot.
+# Usage: packaging/check-board-package.sh PACKAGE.deb SYSROOT
 set -euo pipefail
 package=$1
 sysroot=$2

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Installs a package into an empty Debian root, runs it there, removes it, and shows that nothing is
-# left: packaging/check-install.sh PACKAGE.deb (as root; a package for this machine's architecture)
+# Installs a package into an empty Debian root, runs its programs there, removes it and checks that
+# no file is left. Run it as root, with a package for this machine's architecture.
+# Usage: packaging/check-install.sh PACKAGE.deb
 set -euo pipefail
 package=$(realpath "$1")
 "$(dirname "$0")/../cmake/install-missing.sh" mmdebstrap dpkg-dev
@@ -11,7 +12,7 @@ read -r _ _ release _ <<< "$source"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 root=$work/root
-# The root holds the package's dependencies and nothing else beyond the essential.
+# The root holds the essential packages and the dependencies of this package, nothing else.
 depends=$(dpkg-deb --field "$package" Depends | sed 's/ *([^)]*)//g; s/ *| *[^,]*//g; s/ //g')
 echo "== root with $depends"
 mmdebstrap --quiet --variant=essential --include="$depends" "$release" "$root" "$source"

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Builds the package of the last commit twice, in different folders, and compares the bytes:
-# packaging/check-reproducible.sh [armhf|arm64] (without a word for this machine; for a board on the
-# sysroot that ./cross.sh has laid)
+# Builds the package of the last commit twice, in different folders, and checks that both are the
+# same file. Without an argument the package is for this machine; for a board it needs the sysroot
+# that ./cross.sh makes.
+# Usage: packaging/check-reproducible.sh [armhf|arm64]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 cmake/install-missing.sh g++ cmake ninja-build git dpkg-dev file qtbase5-dev qtscript5-dev rapidjson-dev

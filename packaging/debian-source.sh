@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Prints where packages of this machine's Debian release come from, its section main only, as a line
-# of sources.list: the mirror that apt uses.
+# Prints a sources.list line for this machine's Debian release, component main, with the mirror that
+# apt uses.
 set -euo pipefail
 
 release=$(. /etc/os-release && echo "$VERSION_CODENAME")

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Plays random sessions and runs each fuzz target, all under ASan and UBSan.
+# Plays random sessions and runs each fuzz target, all with ASan and UBSan.
 # Usage: tests/soak.sh [SESSIONS [KEYS [RUNS [SEED]]]]
 set -euo pipefail
 cd "$(dirname "$0")/.."

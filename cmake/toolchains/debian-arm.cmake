@@ -1,4 +1,4 @@
-# Debian's cross compilers for the boards, with the libraries of a sysroot that cross.sh lays.
+# Debian's cross compilers for the boards, with the sysroot that cross.sh makes.
 # DRAVIKON_ARCH is Debian's name of the architecture, DRAVIKON_SYSROOT the folder of the sysroot.
 set(CMAKE_SYSTEM_NAME Linux)
 if(DRAVIKON_ARCH STREQUAL "armhf")
@@ -12,14 +12,14 @@ elseif(DRAVIKON_ARCH STREQUAL "arm64")
 else()
     message(FATAL_ERROR "DRAVIKON_ARCH is \"${DRAVIKON_ARCH}\", neither armhf nor arm64")
 endif()
-# What CMake tries out while it configures needs them as well.
+# CMake's own compiler checks read this file as well and need both variables.
 set(CMAKE_TRY_COMPILE_PLATFORM_VARIABLES DRAVIKON_ARCH DRAVIKON_SYSROOT)
 
 set(CMAKE_CXX_COMPILER ${CMAKE_LIBRARY_ARCHITECTURE}-g++)
 set(CMAKE_SYSROOT ${DRAVIKON_SYSROOT})
 set(CMAKE_CROSSCOMPILING_EMULATOR ${emulator} -L ${DRAVIKON_SYSROOT})
 
-# Programs are the host's, libraries and headers the board's.
+# Programs come from the host, libraries and headers from the sysroot.
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Lays a folder with the libraries and headers of a Debian architecture, from the release that this
-# machine runs and the mirror that it uses: packaging/lay-sysroot.sh ARCH FOLDER
+# Makes a sysroot: a folder with the libraries and headers of a Debian architecture, from the
+# release that this machine runs and the mirror that it uses.
+# Usage: packaging/make-sysroot.sh ARCH FOLDER
 set -euo pipefail
 arch=$1
 sysroot=$(realpath -m "$2")
@@ -12,22 +13,22 @@ work=$(mktemp -d "$sysroot.XXXXXX")
 trap 'rm -rf "$work"' EXIT
 mkdir "$work/root"
 
-# Nothing of the board is run: its packages are only unpacked. They are kept until the end for what
-# they tell of their libraries.
+# The board's packages are unpacked without running anything of them. The .deb files are kept until
+# the end, for the information about their libraries.
 mmdebstrap --quiet --architectures="$arch" --variant=extract --skip=cleanup/apt \
     --include=libc6-dev,libstdc++-12-dev,libvterm-dev,qtbase5-dev,qtscript5-dev,rapidjson-dev \
     "$release" - "$source" \
     | tar -x -C "$work/root" --exclude=./dev --exclude=./proc --exclude=./sys
 
-# Meta-object code is made on this machine.
+# The build runs this machine's moc.
 ln -sf /usr/lib/qt5/bin/moc "$work/root/usr/lib/qt5/bin/moc"
 
-# What dpkg-shlibdeps asks for: which package has a library, by its path on this machine, and what
-# that package says of the library's symbols.
+# A package database for dpkg-shlibdeps: which package contains a library, by its path on this
+# machine, and the symbols that the package declares for it.
 database=$work/root/var/lib/dpkg
 rm -rf "$database"
 mkdir -p "$database/info" "$database/updates"
-echo 1 > "$database/info/format"  # names with architectures
+echo 1 > "$database/info/format"  # file names carry the architecture
 printf '%s\n' "$(dpkg --print-architecture)" "$arch" > "$database/arch"
 for deb in "$work"/root/var/cache/apt/archives/*.deb; do
     name=$(dpkg-deb --field "$deb" Package)
