@@ -16,8 +16,8 @@ QByteArray scriptWithScreens(int count);
 /// A settings script whose root holds `count` fields.
 QByteArray scriptWithFields(int count);
 
-/// Takes the same steps as the session does for a key, but runs no tool: this measures the console's
-/// own work.
+/// Takes the same steps as the session does for a key, but runs no tool: this measures the work of
+/// the console itself.
 class MenuSession {
 public:
     explicit MenuSession(const QByteArray &script);
