@@ -5,7 +5,7 @@
 #include "app/SignalHandlers.h"
 #include "app/TerminalGui.h"
 #include "app/TerminalReader.h"
-#include "backend/BackendTool.h"
+#include "device/BackendTool.h"
 #include "locale/CTranslationHandler.h"
 
 #include <QCoreApplication>

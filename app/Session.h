@@ -1,7 +1,7 @@
 // One run of the console: command line, start-up order, exit status.
 #pragma once
 
-#include "menu/DevicePaths.h"
+#include "device/DevicePaths.h"
 
 /// What a session runs on; the product takes the defaults.
 struct SessionOptions {

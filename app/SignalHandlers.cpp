@@ -2,7 +2,7 @@
 
 #include "app/TerminalGui.h"
 #include "app/TerminalMode.h"
-#include "backend/BackendTool.h"
+#include "device/BackendTool.h"
 
 #include <QCoreApplication>
 #include <QDebug>

@@ -98,9 +98,7 @@ int main(int argc, char **argv)
         print(stdout, QStringLiteral("dravikon-menu-check ") + consoleVersion);
         return Clean;
     }
-    DevicePaths paths;
-    paths.webRoot = parser.value(webRoot);
-    paths.settingsScript = paths.webRoot + QLatin1String("/scripts/settings.js");
+    DevicePaths paths { parser.value(webRoot) };
     paths.backendTool.clear();
     return check(paths, parser.isSet(tree));
 }

@@ -64,8 +64,7 @@ int runOn(const QString &directory, int idleMs, char *program)
         return 1;
     }
     SessionOptions session;
-    session.paths.webRoot = QStringLiteral(DRAVIKON_DEMO_WEB_ROOT);
-    session.paths.settingsScript = session.paths.webRoot + QLatin1String("/scripts/settings.js");
+    session.paths = { QStringLiteral(DRAVIKON_DEMO_WEB_ROOT) };
     session.paths.backendTool = demoBackendTool(directory);
     session.idleMs = idleMs;
     int argc = 1;

@@ -9,7 +9,7 @@ namespace {
 
 QString &instanceRoot()
 {
-    static QString root = QStringLiteral("/var/www/zel_tavrolink_gui");
+    static QString root = DevicePaths().webRoot;
     return root;
 }
 

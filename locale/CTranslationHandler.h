@@ -1,6 +1,8 @@
 // The web interface's translation tables.
 #pragma once
 
+#include "device/DevicePaths.h"
+
 #include <QMap>
 #include <QString>
 #include <QVariantMap>
@@ -10,8 +12,7 @@
 /// next request.
 class CTranslationHandler {
 public:
-    explicit CTranslationHandler(
-        const QString &guiRoot = QStringLiteral("/var/www/zel_tavrolink_gui"));
+    explicit CTranslationHandler(const QString &guiRoot = DevicePaths().webRoot);
 
     /// The instance behind `translate`; made at the first call, never destroyed.
     static CTranslationHandler &instance();

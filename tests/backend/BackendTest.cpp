@@ -1,4 +1,4 @@
-#include "backend/BackendTool.h"
+#include "device/BackendTool.h"
 #include "menu/TreeViewItemHandler.h"
 #include "tests/support/FakeDevice.h"
 

@@ -23,7 +23,7 @@ public:
     QStringList arguments(int idleMs = 180000) const
     {
         const DevicePaths &paths = device.paths();
-        return { paths.settingsScript, paths.webRoot, paths.backendTool, QString::number(idleMs) };
+        return { paths.webRoot, paths.settingsScript, paths.backendTool, QString::number(idleMs) };
     }
 
     /// Waits for the title bar of the first frame.

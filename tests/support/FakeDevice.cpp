@@ -15,7 +15,7 @@ void writeFile(const QString &path, const QByteArray &content)
 } // namespace
 
 FakeDevice::FakeDevice()
-    : devicePaths { directory.filePath(QStringLiteral("settings.js")), directory.path(),
+    : devicePaths { directory.path(), directory.filePath(QStringLiteral("settings.js")),
         directory.filePath(QStringLiteral("tool")) }
 {
     QDir(directory.path()).mkpath(QStringLiteral("locales/en"));

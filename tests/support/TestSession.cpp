@@ -1,4 +1,4 @@
-// The console on the paths of a fake device: dravikon-test-session SCRIPT WEBROOT TOOL IDLE_MS.
+// The console on the paths of a fake device: dravikon-test-session WEBROOT SCRIPT TOOL IDLE_MS.
 #include "app/Session.h"
 
 #include <QByteArray>

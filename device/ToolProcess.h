@@ -15,15 +15,15 @@ public:
     /// each of `arguments`. However much memory the console uses, none of it is copied.
     ToolProcess(const QString &program, const QStringList &arguments, const sigset_t &signalMask);
 
-    /// Waits for the end of the program; unless that is near, it wants killing before.
+    /// Reaps the program; blocks until it ends, so kill a running one first.
     ~ToolProcess();
 
     ToolProcess(const ToolProcess &) = delete;
     ToolProcess &operator=(const ToolProcess &) = delete;
 
-    /// The number of the process and of its group; 0 when the program could not be started. It is
-    /// no other's until the destructor returns.
-    pid_t number() const { return process; }
+    /// The process id, which is also that of its group; 0 when the program could not be started.
+    /// No other process gets it before the destructor returns.
+    pid_t pid() const { return child; }
 
     /// False when the program could not be started or `wait` has seen its end.
     bool isRunning() const { return running; }
@@ -36,9 +36,9 @@ public:
     bool takeOutput(QByteArray &output);
 
 private:
-    pid_t process = 0;
+    pid_t child = 0;
     bool running = false;
     int inputEnd = -1;
     int outputEnd = -1; ///< -1 also after the last of the output
-    int endNotifier = -1; ///< becomes readable when the process ends; -1 where there is none
+    int pidfd = -1; ///< becomes readable when the process ends; -1 where there is none
 };

@@ -6,7 +6,7 @@
 /// The three fixed paths of the device. The product uses the defaults and nothing outside the
 /// program can change them; the demo and the tests run the same code on paths of their own.
 struct DevicePaths {
-    QString settingsScript = QStringLiteral("/var/www/zel_tavrolink_gui/scripts/settings.js");
     QString webRoot = QStringLiteral("/var/www/zel_tavrolink_gui"); ///< no trailing slash
+    QString settingsScript = webRoot + QStringLiteral("/scripts/settings.js");
     QString backendTool = QStringLiteral("/var/www/backend/DBusController");
 };

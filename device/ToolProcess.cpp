@@ -1,4 +1,4 @@
-#include "backend/ToolProcess.h"
+#include "device/ToolProcess.h"
 
 #include <QFile>
 #include <QVector>
@@ -36,7 +36,7 @@ struct Pipe {
     int writeEnd = -1;
 };
 
-// What the program finds when it starts.
+// File descriptors, process group and signals of the program at its start.
 class Surroundings {
 public:
     Surroundings(int input, int output, const sigset_t &signalMask)
@@ -48,7 +48,7 @@ public:
         posix_spawnattr_init(&attributes);
         posix_spawnattr_setpgroup(&attributes, 0);
         posix_spawnattr_setsigmask(&attributes, &signalMask);
-        // Who started the console may ignore these; few programs get along with that.
+        // The console ignores SIGPIPE and may have inherited SIGCHLD as ignored; few programs cope.
         sigset_t unignored;
         sigemptyset(&unignored);
         sigaddset(&unignored, SIGPIPE);
@@ -71,7 +71,7 @@ public:
     posix_spawnattr_t attributes;
 };
 
-// 0 when it could not be started.
+// 0 when the program could not be started.
 pid_t start(const QString &program, const QStringList &arguments, const Surroundings &surroundings)
 {
     QByteArrayList words { QFile::encodeName(program) };
@@ -81,10 +81,10 @@ pid_t start(const QString &program, const QStringList &arguments, const Surround
     for (QByteArray &word : words)
         argv += word.data();
     argv += nullptr;
-    pid_t process = 0;
-    const int error = posix_spawnp(&process, argv.first(), &surroundings.files,
-        &surroundings.attributes, argv.data(), environ);
-    return error == 0 ? process : 0;
+    pid_t pid = 0;
+    const int error = posix_spawnp(
+        &pid, argv.first(), &surroundings.files, &surroundings.attributes, argv.data(), environ);
+    return error == 0 ? pid : 0;
 }
 
 } // namespace
@@ -95,33 +95,33 @@ ToolProcess::ToolProcess(
     Pipe input;
     Pipe output;
     if (input.readEnd >= 0 && output.readEnd >= 0)
-        process = start(program, arguments, { input.readEnd, output.writeEnd, signalMask });
+        child = start(program, arguments, { input.readEnd, output.writeEnd, signalMask });
     closeEnd(input.readEnd);
     closeEnd(output.writeEnd);
     inputEnd = input.writeEnd;
     outputEnd = output.readEnd;
     fcntl(outputEnd, F_SETFL, O_NONBLOCK);
-    running = process > 0;
+    running = child > 0;
     if (running)
-        endNotifier = int(syscall(SYS_pidfd_open, process, 0));
+        pidfd = int(syscall(SYS_pidfd_open, child, 0));
 }
 
 ToolProcess::~ToolProcess()
 {
     closeEnd(inputEnd);
     closeEnd(outputEnd);
-    closeEnd(endNotifier);
-    while (process > 0 && waitpid(process, nullptr, 0) < 0 && errno == EINTR) { }
+    closeEnd(pidfd);
+    while (child > 0 && waitpid(child, nullptr, 0) < 0 && errno == EINTR) { }
 }
 
 void ToolProcess::wait(int timeoutMs)
 {
-    std::array<pollfd, 2> events = { { { outputEnd, POLLIN, 0 }, { endNotifier, POLLIN, 0 } } };
-    // Linux before 5.3 has no notifiers; there one looks again every millisecond.
-    poll(events.data(), events.size(), endNotifier >= 0 ? timeoutMs : qMin(timeoutMs, 1));
-    // Where ended children are ignored, there is none to wait for then.
+    std::array<pollfd, 2> events = { { { outputEnd, POLLIN, 0 }, { pidfd, POLLIN, 0 } } };
+    // Linux before 5.3 has no pidfd: look again every millisecond.
+    poll(events.data(), events.size(), pidfd >= 0 ? timeoutMs : qMin(timeoutMs, 1));
+    // With SIGCHLD ignored an ended child is reaped at once, and waitid fails.
     siginfo_t end = {};
-    const int result = waitid(P_PID, id_t(process), &end, WEXITED | WNOHANG | WNOWAIT);
+    const int result = waitid(P_PID, id_t(child), &end, WEXITED | WNOHANG | WNOWAIT);
     running = result == 0 && end.si_pid == 0;
 }
 

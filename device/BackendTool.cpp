@@ -1,6 +1,7 @@
-#include "backend/BackendTool.h"
+#include "device/BackendTool.h"
 
-#include "backend/ToolProcess.h"
+#include "device/SignalBlocker.h"
+#include "device/ToolProcess.h"
 
 #include <QDeadlineTimer>
 
@@ -22,29 +23,13 @@ std::optional<sigset_t> toolMask;
 static_assert(std::atomic<bool>::is_always_lock_free && std::atomic<pid_t>::is_always_lock_free,
     "signal handlers use these");
 
-// Holds all signals back for a scope.
-class SignalHold {
-public:
-    SignalHold()
-    {
-        sigset_t all;
-        sigfillset(&all);
-        pthread_sigmask(SIG_SETMASK, &all, &maskBefore);
-    }
-    ~SignalHold() { pthread_sigmask(SIG_SETMASK, &maskBefore, nullptr); }
-    SignalHold(const SignalHold &) = delete;
-    SignalHold &operator=(const SignalHold &) = delete;
-
-    sigset_t maskBefore;
-};
-
-// A signal that ends the console finds either no tool or its number.
+// A signal that ends the console finds either no tool or its pid.
 std::unique_ptr<ToolProcess> start(const QString &program, const QStringList &arguments)
 {
-    const SignalHold hold;
+    const SignalBlocker blocker(allSignals());
     auto tool =
-        std::make_unique<ToolProcess>(program, arguments, toolMask.value_or(hold.maskBefore));
-    runningTool = tool->number();
+        std::make_unique<ToolProcess>(program, arguments, toolMask.value_or(blocker.formerMask()));
+    runningTool = tool->pid();
     return tool;
 }
 
@@ -74,15 +59,10 @@ void BackendTool::abandon() noexcept
     abandoned = true;
 }
 
-bool BackendTool::isAbandoned() noexcept
-{
-    return abandoned;
-}
-
 void BackendTool::killRunning() noexcept
 {
     const pid_t tool = runningTool;
-    // 0 and 1 would stand for whole crowds of processes.
+    // kill(0) would signal our own group, kill(-1) every process.
     if (tool > 1 && kill(-tool, SIGKILL) != 0)
         kill(tool, SIGKILL);
 }

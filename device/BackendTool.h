@@ -22,9 +22,6 @@ QByteArray run(const QString &program, const QStringList &arguments, int timeout
 /// From now on no tool is started, and a running one is killed at once. Safe in a signal handler.
 void abandon() noexcept;
 
-/// True once `abandon` was called.
-bool isAbandoned() noexcept;
-
 /// Kills the running tool, if any, without waiting for it. Safe in a signal handler.
 void killRunning() noexcept;
 
