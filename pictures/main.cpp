@@ -1,6 +1,6 @@
 // Takes the pictures of the documents from sessions on the simulated device: dravikon-pictures DIR.
+#include "pictures/DemoSession.h"
 #include "pictures/Svg.h"
-#include "tests/support/DemoSession.h"
 
 #include <cstdio>
 

@@ -1,8 +1,6 @@
-// A program on a terminal of its own, watched from the outside.
 #include "bench/session/Program.h"
 
 #include <chrono>
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -10,8 +8,6 @@
 
 #include <err.h>
 #include <fcntl.h>
-#include <poll.h>
-#include <pty.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -34,17 +30,11 @@ std::string contentOf(const std::filesystem::path &path)
     return content.str();
 }
 
-// The number behind a label as /proc writes it.
-double numberBehind(const std::string &text, const std::string &label)
+// The number after a label in a file of /proc.
+double numberAfter(const std::string &text, const std::string &label)
 {
     const size_t place = text.find('\n' + label + ':');
     return place == std::string::npos ? 0 : std::atof(text.c_str() + place + label.size() + 2);
-}
-
-bool hasOutput(int descriptor, int timeoutMs)
-{
-    pollfd request = { descriptor, POLLIN, 0 };
-    return poll(&request, 1, timeoutMs) > 0 && (request.revents & POLLIN);
 }
 
 } // namespace
@@ -57,28 +47,13 @@ double nowUs()
 
 Program::Program(const Command &command)
 {
-    const winsize size = { 24, 80, 0, 0 };
-    const std::vector<char *> arguments = argumentsOf(command);
+    QStringList words;
+    for (const std::string &word : command)
+        words += QString::fromLocal8Bit(word.c_str());
+    process.setStandardError(QStringLiteral("/dev/tty"));
     startedUs = nowUs();
-    process = forkpty(&terminal, nullptr, nullptr, &size);
-    if (process < 0)
+    if (!process.start(words.takeFirst(), words, 24, 80))
         err(EXIT_FAILURE, "no terminal");
-    if (process == 0) {
-        // Its keys have the sequences that the console knows.
-        setenv("TERM", "linux", true);
-        execvp(arguments[0], arguments.data());
-        _exit(127);
-    }
-    fcntl(terminal, F_SETFD, FD_CLOEXEC);
-}
-
-Program::~Program()
-{
-    if (isRunning()) {
-        kill(process, SIGKILL);
-        waitpid(process, nullptr, 0);
-    }
-    close(terminal);
 }
 
 Reply Program::firstFrame(int quietMs)
@@ -98,7 +73,7 @@ Reply Program::press(const std::string &key, int quietMs)
 {
     constexpr int patienceMs = 500;
     const double start = nowUs();
-    if (write(terminal, key.data(), key.size()) < 0)
+    if (!process.send(QByteArray::fromStdString(key)))
         return {};
     Reply answer;
     collect(answer, start, patienceMs, quietMs);
@@ -107,28 +82,24 @@ Reply Program::press(const std::string &key, int quietMs)
 
 void Program::collect(Reply &reply, double startUs, int firstMs, int quietMs)
 {
-    char buffer[65536];
-    for (int waitMs = firstMs; hasOutput(terminal, waitMs); waitMs = quietMs) {
-        const ssize_t length = read(terminal, buffer, sizeof buffer);
-        if (length <= 0)
-            break;
+    QByteArray output = process.read(firstMs);
+    while (!output.isEmpty()) {
         reply.us = nowUs() - startUs;
-        reply.bytes.append(buffer, size_t(length));
+        reply.bytes += output.toStdString();
+        output = process.read(quietMs);
     }
 }
 
 bool Program::isRunning()
 {
-    if (!hasEnded)
-        hasEnded = waitpid(process, nullptr, WNOHANG) == process;
-    return !hasEnded;
+    return process.status().state == ExitStatus::Running;
 }
 
 Usage Program::usage() const
 {
     namespace fs = std::filesystem;
     Usage usage;
-    const fs::path directory = fs::path("/proc") / std::to_string(process);
+    const fs::path directory = fs::path("/proc") / std::to_string(process.pid());
     for (const fs::directory_entry &thread : fs::directory_iterator(directory / "task")) {
         double runNs = 0;
         double waitNs = 0;
@@ -137,16 +108,16 @@ Usage Program::usage() const
         usage.cpuUs += runNs / 1000;
         usage.wakeUps += slices;
         const std::string status = contentOf(thread.path() / "status");
-        usage.switches += numberBehind(status, "voluntary_ctxt_switches")
-            + numberBehind(status, "nonvoluntary_ctxt_switches");
+        usage.switches += numberAfter(status, "voluntary_ctxt_switches")
+            + numberAfter(status, "nonvoluntary_ctxt_switches");
     }
-    usage.writes = numberBehind(contentOf(directory / "io"), "syscw");
+    usage.writes = numberAfter(contentOf(directory / "io"), "syscw");
     return usage;
 }
 
 double Program::peakMemory() const
 {
-    return numberBehind(contentOf("/proc/" + std::to_string(process) + "/status"), "VmHWM");
+    return numberAfter(contentOf("/proc/" + std::to_string(process.pid()) + "/status"), "VmHWM");
 }
 
 double runUs(const Command &command)

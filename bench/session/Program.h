@@ -1,10 +1,10 @@
-// A program on a terminal of its own, watched from the outside.
+// A program on a terminal of its own, measured from outside.
 #pragma once
+
+#include "terminal/PtyProcess.h"
 
 #include <string>
 #include <vector>
-
-#include <sys/types.h>
 
 using Command = std::vector<std::string>;
 
@@ -27,13 +27,8 @@ public:
     /// Starts `command` on a terminal of 80 x 24. A failure ends the benchmark.
     explicit Program(const Command &command);
 
-    /// Kills the program if it still runs.
-    ~Program();
-    Program(const Program &) = delete;
-    Program &operator=(const Program &) = delete;
-
-    /// What the program prints until it is silent and at rest for `quietMs`; the time counts from
-    /// its start.
+    /// What the program prints until it is silent for `quietMs` and used next to no processor time
+    /// meanwhile; the time counts from its start.
     Reply firstFrame(int quietMs = 200);
 
     /// Types a key and returns what the program prints until it is silent for `quietMs`. Nothing
@@ -49,10 +44,8 @@ public:
 private:
     void collect(Reply &reply, double startUs, int firstMs, int quietMs);
 
-    int terminal = -1;
-    pid_t process = -1;
+    PtyProcess process;
     double startedUs = 0;
-    bool hasEnded = false;
 };
 
 /// A clock in microseconds.

@@ -1,8 +1,8 @@
 // The diagnose screens as the terminal shows them, cell by cell.
 #include "diagnose/DiagnoseScreen.h"
 #include "render/FrameComposer.h"
+#include "terminal/TerminalEmulator.h"
 #include "tests/support/FakeDevice.h"
-#include "tests/support/TerminalEmulator.h"
 
 #include <QtTest>
 

@@ -1,7 +1,7 @@
 // Plays random keys, sizes and faults of the tool against the console and checks its screen after
 // each: random-sessions SESSIONS KEYS SEED.
+#include "terminal/Keys.h"
 #include "tests/support/DeviceSession.h"
-#include "tests/support/Keys.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -37,7 +37,7 @@ const char *const faults[] = { "none", "none", "silent", "garbage", "crash", "sl
 
 const QByteArrayList keys = { Key::enter, Key::enter, Key::enter, Key::up, Key::down, Key::down,
     Key::down, Key::left, Key::right, Key::pageUp, Key::pageDown, Key::escape, Key::backspace,
-    Key::home };
+    Key::redraw };
 
 class Player {
 public:
@@ -104,8 +104,7 @@ private:
         isFaulty = fault != "none";
     }
 
-    // When the console has taken a second key, all that the first one did is on the screen.
-    bool settle() { return session.press({ Key::home }) || fails("hangs"); }
+    bool settle() { return session.waitForRest() || fails("hangs"); }
 
     bool isSound()
     {

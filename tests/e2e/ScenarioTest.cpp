@@ -1,6 +1,6 @@
 // The console on the simulated device: keys in, screen, tool calls and stored values out. Each file
 // in scenarios/ is one session.
-#include "tests/support/DemoSession.h"
+#include "pictures/DemoSession.h"
 
 #include <QDir>
 #include <QtTest>

@@ -1,6 +1,6 @@
 // The console on a terminal, from its start to each of its ends, on good days and bad ones.
+#include "terminal/Keys.h"
 #include "tests/support/DeviceSession.h"
-#include "tests/support/Keys.h"
 #include "tests/support/RunProgram.h"
 #include "json/JsonWriter.h"
 
@@ -299,7 +299,7 @@ void SessionTest::resizeStorm()
     const QStringList before = session.terminal().screen();
     for (int i = 0; i < 1000; ++i) {
         session.resize(5 + i % 40, 20 + i % 100);
-        QVERIFY(i % 20 != 0 || session.send(Key::home));
+        QVERIFY(i % 20 != 0 || session.send(Key::redraw));
         session.mark();
     }
     session.resize(24, 80);
@@ -364,8 +364,8 @@ void SessionTest::steadyMemory()
     const auto play = [&session](int count) {
         for (int i = 0; i < count; ++i) {
             if (!session.press(keysToEditField
-                    + QByteArrayList {
-                        "x", Key::escape, Key::enter, Key::enter, Key::up, Key::enter, Key::home }))
+                    + QByteArrayList { "x", Key::escape, Key::enter, Key::enter, Key::up,
+                        Key::enter, Key::redraw }))
                 return false;
         }
         return true;

@@ -1,7 +1,7 @@
 // Lines and boxes: what a terminal shows of what the operations make.
 #include "render/Frame.h"
 #include "render/ForeignText.h"
-#include "tests/support/TerminalEmulator.h"
+#include "terminal/TerminalEmulator.h"
 
 #include <QtTest>
 

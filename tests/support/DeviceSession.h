@@ -1,8 +1,8 @@
 // A session of the console on a fake device.
 #pragma once
 
+#include "terminal/PtySession.h"
 #include "tests/support/FakeDevice.h"
-#include "tests/support/PtySession.h"
 
 #include <QFile>
 

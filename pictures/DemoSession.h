@@ -1,8 +1,8 @@
 // A session of the console on the simulated device, driven by names of keys and labels.
 #pragma once
 
-#include "tests/support/Keys.h"
-#include "tests/support/PtySession.h"
+#include "terminal/Keys.h"
+#include "terminal/PtySession.h"
 #include "json/JsonReader.h"
 
 #include <QFile>
@@ -34,7 +34,7 @@ public:
     }
 
     /// Types a key and waits until the console has done all that it is for.
-    bool act(const QByteArray &key) { return press(key) && press(Key::home); }
+    bool act(const QByteArray &key) { return press(key) && waitForRest(); }
 
     /// Acts on keys by their names; what is no name is typed.
     bool actAll(const QStringList &names)
@@ -53,7 +53,7 @@ public:
     QString selected() const
     {
         for (int row = 0; row < terminal().screen().size(); ++row) {
-            if (terminal().cell(row, 0).background == TerminalEmulator::Background::Magenta)
+            if (terminal().backgrounds(row).startsWith(QLatin1Char('m')))
                 return terminal().row(row);
         }
         return {};

@@ -1,7 +1,13 @@
-// A terminal in memory: takes the bytes that a program writes and tells what the screen shows.
-#include "tests/support/TerminalEmulator.h"
+#include "terminal/TerminalEmulator.h"
 
 #include <vterm.h>
+
+static VTermScreenCell cellAt(VTermScreen *cells, int row, int column)
+{
+    VTermScreenCell cell = {};
+    vterm_screen_get_cell(cells, { row, column }, &cell);
+    return cell;
+}
 
 TerminalEmulator::TerminalEmulator(int rows, int columns)
     : vterm(vterm_new(rows, columns), vterm_free)
@@ -13,9 +19,6 @@ TerminalEmulator::TerminalEmulator(int rows, int columns)
         if (property == VTERM_PROP_CURSORVISIBLE)
             static_cast<TerminalEmulator *>(self)->cursorShown = value->boolean;
         return 1;
-    };
-    callbacks.sb_pushline = [](int, const VTermScreenCell *, void *self) {
-        return ++static_cast<TerminalEmulator *>(self)->scrolled;
     };
     const auto keepAnswer = [](const char *bytes, size_t size, void *self) {
         static_cast<TerminalEmulator *>(self)->answers.append(bytes, int(size));
@@ -41,28 +44,17 @@ void TerminalEmulator::feed(const QByteArray &bytes)
 
 void TerminalEmulator::resize(int rows, int columns)
 {
-    const int scrolledBefore = scrolled;
     vterm_set_size(vterm.get(), rows, columns);
-    scrolled = scrolledBefore;
     size = { columns, rows };
-}
-
-TerminalEmulator::Cell TerminalEmulator::cell(int row, int column) const
-{
-    static const char letters[] = "?rg?bm"; // by number of the colour
-    VTermScreenCell found = {};
-    vterm_screen_get_cell(cells, { row, column }, &found);
-    const bool isDefault = VTERM_COLOR_IS_DEFAULT_BG(&found.bg);
-    const bool isNamed = VTERM_COLOR_IS_INDEXED(&found.bg) && found.bg.indexed.idx < 6;
-    const char letter = isDefault ? '.' : isNamed ? letters[found.bg.indexed.idx] : '?';
-    return { found.chars[0] ? QChar(found.chars[0]) : QLatin1Char(' '), Background(letter) };
 }
 
 QString TerminalEmulator::row(int row) const
 {
     QString text;
-    for (int column = 0; column < size.width(); ++column)
-        text += cell(row, column).character;
+    for (int column = 0; column < size.width(); ++column) {
+        const uint32_t character = cellAt(cells, row, column).chars[0];
+        text += character ? QChar(character) : QLatin1Char(' ');
+    }
     while (text.endsWith(QLatin1Char(' ')))
         text.chop(1);
     return text;
@@ -70,9 +62,16 @@ QString TerminalEmulator::row(int row) const
 
 QString TerminalEmulator::backgrounds(int row) const
 {
+    static const char byNumber[] = "?rg?bm";
     QString letters;
-    for (int column = 0; column < size.width(); ++column)
-        letters += QLatin1Char(char(cell(row, column).background));
+    for (int column = 0; column < size.width(); ++column) {
+        const VTermColor colour = cellAt(cells, row, column).bg;
+        const bool isNamed = VTERM_COLOR_IS_INDEXED(&colour) && colour.indexed.idx < 6;
+        const char letter = VTERM_COLOR_IS_DEFAULT_BG(&colour) ? '.'
+            : isNamed                                          ? byNumber[colour.indexed.idx]
+                                                               : '?';
+        letters += QLatin1Char(letter);
+    }
     return letters;
 }
 

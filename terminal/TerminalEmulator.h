@@ -1,4 +1,4 @@
-// A terminal in memory: takes the bytes that a program writes and tells what the screen shows.
+// A terminal in memory: takes the bytes that a program writes and shows its screen.
 #pragma once
 
 #include <QByteArray>
@@ -13,34 +13,18 @@ struct VTermScreen;
 
 class TerminalEmulator {
 public:
-    /// The value is the letter of the colour in `backgrounds()`.
-    enum class Background : char {
-        Default = '.',
-        Red = 'r',
-        Green = 'g',
-        Blue = 'b',
-        Magenta = 'm',
-        Other = '?'
-    };
-
-    struct Cell {
-        QChar character; ///< a blank where nothing was written
-        Background background;
-    };
-
     TerminalEmulator(int rows, int columns);
     Q_DISABLE_COPY(TerminalEmulator)
 
     /// Takes output in Latin-1, in pieces of any size.
     void feed(const QByteArray &bytes);
-    /// Changes the size and keeps what still fits; does not count as scrolling.
+    /// Changes the size and keeps what still fits.
     void resize(int rows, int columns);
 
-    /// Cell at a 0-based position; outside the screen a blank on another background.
-    Cell cell(int row, int column) const;
-    /// Text of a 0-based row without its trailing blanks.
+    /// Text of a 0-based row without its trailing blanks; empty outside the screen.
     QString row(int row) const;
-    /// Backgrounds of a 0-based row, one letter a column, as in "rrrr....".
+    /// Backgrounds of a 0-based row, one letter a column as in "rrrr....": "." the default colour,
+    /// "r" red, "g" green, "b" blue, "m" magenta, "?" any other.
     QString backgrounds(int row) const;
     /// Texts of all rows from top to bottom.
     QStringList screen() const;
@@ -50,14 +34,11 @@ public:
     bool cursorVisible() const { return cursorShown; }
     /// What the terminal sent back to the program: empty unless the output asked for a report.
     QByteArray answerBack() const { return answers; }
-    /// Lines that left the screen at its top; always 0 on a screen of a single row.
-    int scrolledLines() const { return scrolled; }
 
 private:
     std::unique_ptr<VTerm, void (*)(VTerm *)> vterm;
     VTermScreen *cells;
     QSize size;
     bool cursorShown = true;
-    int scrolled = 0;
     QByteArray answers;
 };

@@ -1,0 +1,155 @@
+#include "terminal/PtyProcess.h"
+
+#include <QFile>
+#include <QVector>
+
+#include <csignal>
+#include <fcntl.h>
+#include <poll.h>
+#include <pty.h>
+#include <sys/ioctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <utmp.h>
+
+namespace {
+
+bool isReadable(int descriptor, int timeoutMs)
+{
+    pollfd request = { descriptor, POLLIN, 0 };
+    return poll(&request, 1, timeoutMs) > 0 && (request.revents & POLLIN);
+}
+
+QByteArray readProc(pid_t process, const char *name)
+{
+    QFile file(QStringLiteral("/proc/%1/%2").arg(process).arg(QLatin1String(name)));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool isRunning(pid_t process)
+{
+    const QByteArray text = readProc(process, "stat");
+    return text.contains(") R ") || text.contains(") D ");
+}
+
+bool hasChildren(pid_t process)
+{
+    QFile file(QStringLiteral("/proc/%1/task/%1/children").arg(process));
+    return file.open(QIODevice::ReadOnly) && !file.readAll().isEmpty();
+}
+
+} // namespace
+
+bool operator==(const ExitStatus &left, const ExitStatus &right)
+{
+    return left.state == right.state && left.value == right.value;
+}
+
+char *toString(const ExitStatus &status)
+{
+    static const char *const states[] = { "running ", "exited ", "killed " };
+    return qstrdup(states[status.state] + QByteArray::number(status.value));
+}
+
+PtyProcess::~PtyProcess()
+{
+    kill();
+    close(master);
+    close(slave);
+}
+
+bool PtyProcess::start(const QString &program, const QStringList &arguments, int rows, int columns)
+{
+    if (child > 0 || openpty(&master, &slave, nullptr, nullptr, nullptr) != 0)
+        return false;
+    fcntl(master, F_SETFD, FD_CLOEXEC);
+    fcntl(master, F_SETFL, O_NONBLOCK);
+    fcntl(slave, F_SETFD, FD_CLOEXEC);
+    setSize(rows, columns);
+
+    const QString words = (QStringList(program) + arguments).join(QChar::Null);
+    QByteArrayList texts = words.toLocal8Bit().split('\0');
+    QVector<char *> argv;
+    for (QByteArray &text : texts)
+        argv += text.data();
+    argv += nullptr;
+
+    child = fork();
+    if (child == 0) {
+        const int parentError = fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+        login_tty(slave);
+        dup2(errorPath.isEmpty()
+                ? parentError
+                : open(errorPath.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644),
+            STDERR_FILENO);
+        // The type whose keys send the sequences of terminal/Keys.h.
+        setenv("TERM", "linux", true);
+        execvp(argv.first(), argv.data());
+        _exit(127);
+    }
+    return child > 0;
+}
+
+bool PtyProcess::send(const QByteArray &bytes)
+{
+    return write(master, bytes.constData(), size_t(bytes.size())) == bytes.size();
+}
+
+QByteArray PtyProcess::read(int timeoutMs)
+{
+    if (!isReadable(master, timeoutMs))
+        return {};
+    char buffer[4096];
+    return { buffer, int(qMax<ssize_t>(0, ::read(master, buffer, sizeof buffer))) };
+}
+
+bool PtyProcess::isWaiting() const
+{
+    // Output last: a process that sleeps because the terminal is full has left some.
+    return !isReadable(slave, 0) && !isRunning(child) && !isReadable(master, 0);
+}
+
+bool PtyProcess::isAtRest() const
+{
+    // Unchanged scheduling statistics: it did not run between the questions.
+    const QByteArray before = readProc(child, "schedstat");
+    return isWaiting() && !hasChildren(child) && readProc(child, "schedstat") == before;
+}
+
+void PtyProcess::setSize(int rows, int columns)
+{
+    const winsize size = { ushort(rows), ushort(columns), 0, 0 };
+    ioctl(master, TIOCSWINSZ, &size);
+}
+
+termios PtyProcess::attributes() const
+{
+    termios result = {};
+    tcgetattr(slave, &result);
+    return result;
+}
+
+void PtyProcess::signal(int number)
+{
+    if (child > 0 && status().state == ExitStatus::Running)
+        ::kill(child, number);
+}
+
+void PtyProcess::kill()
+{
+    signal(SIGKILL);
+    while (child > 0 && status().state == ExitStatus::Running)
+        read(2);
+}
+
+ExitStatus PtyProcess::status()
+{
+    int status = 0;
+    const bool isDue = child > 0 && exitStatus.state == ExitStatus::Running;
+    if (isDue && waitpid(child, &status, WNOHANG) == child) {
+        const bool exited = WIFEXITED(status);
+        exitStatus.state = exited ? ExitStatus::Exited : ExitStatus::Killed;
+        exitStatus.value = exited ? WEXITSTATUS(status) : WTERMSIG(status);
+    }
+    return exitStatus;
+}
