@@ -1,31 +1,29 @@
 // The backend tool of the simulated device: one command a run, one JSON list as the answer.
+#include "demo/DeviceState.h"
 #include "demo/FieldInterfaces.h"
-#include "demo/Json.h"
 #include "demo/MenuValues.h"
-#include "demo/StateFile.h"
+#include "json/JsonReader.h"
 
-#include <QByteArrayList>
 #include <QFile>
+#include <QStringList>
 
 #include <cstdio>
+#include <optional>
 
 namespace {
 
 struct Call {
-    QByteArrayList words; ///< command words and instance number
-    QByteArray values; ///< JSON text of the values to be written, empty when reading
+    QStringList words; ///< command words and instance number
+    QVariantList values; ///< values to be written, empty when reading
 };
 
 // Command words come one by one or in a single argument, the values of a write always last.
-Call callFrom(QByteArrayList arguments)
+Call callFrom(QStringList arguments)
 {
     Call call;
-    if (!arguments.isEmpty() && arguments.constLast().startsWith('['))
-        call.values = arguments.takeLast();
-    for (const QByteArray &word : arguments.join(' ').simplified().split(' ')) {
-        if (!word.isEmpty())
-            call.words += word;
-    }
+    if (!arguments.isEmpty() && arguments.constLast().startsWith(QLatin1Char('[')))
+        call.values = parseJson(arguments.takeLast().toUtf8()).value_or(QVariant()).toList();
+    call.words = arguments.join(QLatin1Char(' ')).split(QLatin1Char(' '), Qt::SkipEmptyParts);
     return call;
 }
 
@@ -37,99 +35,61 @@ QString directoryOf(const char *program)
     return slash < 0 ? QStringLiteral(".") : path.left(slash + 1);
 }
 
-void logCall(const QString &directory, const QByteArrayList &arguments)
+void logCall(const QString &directory, const QStringList &arguments)
 {
     QFile log(directory + QLatin1String("/calls.log"));
     if (!log.open(QIODevice::Append | QIODevice::ExistingOnly))
         return;
-    JsonDocument line;
-    line.SetArray();
-    for (const QByteArray &argument : arguments) {
-        line.PushBack(Json(rapidjson::StringRef(argument.constData(), size_t(argument.size()))),
-            line.GetAllocator());
-    }
-    log.write(compactJson(line) + '\n');
+    const QVariantList line(arguments.begin(), arguments.end());
+    log.write(deviceJson(line) + '\n');
 }
 
-int instanceOf(const Call &call, bool &ok)
+// -1 for none, nothing when the call is not made of command, group and instance.
+std::optional<int> instanceOf(const Call &call)
 {
-    ok = call.words.size() == 2;
-    if (ok)
+    if (call.words.size() == 2)
         return -1;
-    const int instance = call.words.value(2).toInt(&ok);
-    ok = ok && instance >= 0 && call.words.size() == 3;
+    bool isNumber = false;
+    const int instance = call.words.value(2).toInt(&isNumber);
+    if (call.words.size() != 3 || !isNumber || instance < 0)
+        return std::nullopt;
     return instance;
 }
 
-QByteArray version(JsonDocument &state)
+QVariant sealStatus(const QVariant &state)
 {
-    const Json *const text = member(&state, "version");
-    return text && text->IsString() ? QByteArray(text->GetString()) : QByteArray();
+    const QVariantMap seal = valueAt(state, { QStringLiteral("seal") }).toMap();
+    const QVariant closed =
+        valueAt(menuValues(state, seal.value(QStringLiteral("group")).toString(), -1),
+            { seal.value(QStringLiteral("position")).toInt() });
+    return QVariantList { closed == true ? QStringLiteral("i18n_wm_true")
+                                         : QStringLiteral("i18n_wm_false") };
 }
 
-QByteArray sealStatus(JsonDocument &state)
+QVariant answerOfWrite(bool isAccepted, const QString &directory, const QVariant &state)
 {
-    const Json *const seal = member(&state, "seal");
-    const Json *const group = member(seal, "group");
-    const Json *const position = member(seal, "position");
-    if (!group || !group->IsString() || !position || !position->IsInt())
-        return {};
-    const Json *const closed =
-        element(menuValues(state, group->GetString(), -1), position->GetInt());
-    return closed && closed->IsTrue() ? "[\"i18n_wm_true\"]" : "[\"i18n_wm_false\"]";
+    return QVariantList { isAccepted && saveState(directory, state) };
 }
 
-QByteArray readMenu(JsonDocument &state, const Call &call)
+QVariant answerTo(const Call &call, const QString &directory, QVariant &state)
 {
-    bool ok = false;
-    const int instance = instanceOf(call, ok);
-    const Json *const values = ok ? menuValues(state, call.words.value(1), instance) : nullptr;
-    return values ? compactJson(*values) : QByteArray();
-}
-
-bool writeMenu(JsonDocument &state, const Call &call)
-{
-    bool ok = false;
-    const int instance = instanceOf(call, ok);
-    JsonDocument values;
-    return ok && parseJson(call.values, values)
-        && setMenuValues(state, call.words.value(1), instance, values);
-}
-
-bool switchInterface(JsonDocument &state, const Call &call)
-{
-    JsonDocument request;
-    return parseJson(call.values, request) && enableInterface(state, request);
-}
-
-QByteArray answerOfWrite(bool accepted, const QString &directory, const JsonDocument &state)
-{
-    return accepted && saveState(directory, state) ? "[true]" : "[false]";
-}
-
-QByteArray diagnose(JsonDocument &state, const Call &call, const QString &directory)
-{
-    JsonDocument answer;
-    if (!interfaceAnswer(state, call.words.value(0), call.words.value(1), answer))
-        return {};
-    saveState(directory, state);
-    return compactJson(answer);
-}
-
-QByteArray answerTo(const Call &call, const QString &directory, JsonDocument &state)
-{
-    const QByteArray command = call.words.value(0);
-    if (command == "--version")
-        return version(state);
-    if (command == "get_menu_electronic_seal_status")
+    const QString command = call.words.value(0);
+    const QString group = call.words.value(1);
+    const std::optional<int> instance = instanceOf(call);
+    if (command == QLatin1String("get_menu_electronic_seal_status"))
         return sealStatus(state);
-    if (command == "get_menu")
-        return readMenu(state, call);
-    if (command == "set_menu")
-        return answerOfWrite(writeMenu(state, call), directory, state);
-    if (command == "button_service_diagnose_enable_if")
-        return answerOfWrite(switchInterface(state, call), directory, state);
-    return diagnose(state, call, directory);
+    if (command == QLatin1String("get_menu"))
+        return instance ? menuValues(state, group, *instance) : QVariant();
+    if (command == QLatin1String("set_menu")) {
+        const bool isAccepted = instance && setMenuValues(state, group, *instance, call.values);
+        return answerOfWrite(isAccepted, directory, state);
+    }
+    if (command == QLatin1String("button_service_diagnose_enable_if"))
+        return answerOfWrite(enableInterface(state, call.values), directory, state);
+    const QVariant answer = interfaceAnswer(state, command, group);
+    if (answer.isValid())
+        saveState(directory, state);
+    return answer;
 }
 
 } // namespace
@@ -137,13 +97,18 @@ QByteArray answerTo(const Call &call, const QString &directory, JsonDocument &st
 int main(int argc, char **argv)
 {
     const QString directory = directoryOf(argv[0]);
-    const QByteArrayList arguments(argv + 1, argv + argc);
+    QStringList arguments;
+    for (int index = 1; index < argc; ++index)
+        arguments += QString::fromUtf8(argv[index]);
     logCall(directory, arguments);
 
-    JsonDocument state;
-    if (!loadState(directory, state))
-        return 1;
-    const QByteArray answer = answerTo(callFrom(arguments), directory, state);
+    QVariant state = loadState(directory);
+    QByteArray answer;
+    if (arguments.value(0) == QLatin1String("--version"))
+        answer = valueAt(state, { QStringLiteral("version") }).toByteArray();
+    else if (const QVariant values = answerTo(callFrom(arguments), directory, state);
+             values.isValid())
+        answer = deviceJson(values);
     if (answer.isEmpty())
         return 1;
     std::puts(answer.constData());

@@ -1,6 +1,6 @@
 #include "demo/DemoDevice.h"
 
-#include "demo/StateFile.h"
+#include "demo/DeviceState.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,10 +1,12 @@
 #include "demo/FieldInterfaces.h"
 
+#include "demo/DeviceState.h"
+
 #include <cmath>
 
 namespace {
 
-// Up and down between 0 and `amplitude`; later channels move faster, the first answer stands still.
+// Up and down between 0 and `amplitude`, later channels faster; 0 in the first answer.
 int driftSteps(int answers, int channel, int amplitude)
 {
     if (amplitude <= 0)
@@ -13,90 +15,74 @@ int driftSteps(int answers, int channel, int amplitude)
     return phase <= amplitude ? phase : 2 * amplitude - phase;
 }
 
-void driftNumber(Json &value, int steps)
+// A channel that measures 0 has no sensor and stays there.
+void driftNumber(QVariant &value, int steps)
 {
-    if (value.IsInt())
-        value.SetInt(value.GetInt() + steps);
-    else if (value.IsDouble())
-        value.SetDouble(std::round(value.GetDouble() * 10 + steps) / 10);
+    if (value.type() == QVariant::LongLong && value != 0)
+        value = value.toLongLong() + steps;
+    else if (value.type() == QVariant::Double)
+        value = std::round(value.toDouble() * 10 + steps) / 10;
 }
 
-void driftChannels(Json &interface, const Json *drift, int answers)
+QVariantList drifted(QVariantList interface, const QVariantList &amplitudes, int answers)
 {
-    for (int index = 0; index < int(interface.Size()); ++index) {
-        const Json *const amplitude = element(drift, index);
-        if (!amplitude || !amplitude->IsInt())
-            continue;
-        Json &value = *element(&interface, index);
-        if (!value.IsArray()) {
-            driftNumber(value, driftSteps(answers, index, amplitude->GetInt()));
+    for (int index = 0; index < interface.size(); ++index) {
+        QVariant &value = interface[index];
+        const int amplitude = amplitudes.value(index).toInt();
+        if (value.type() != QVariant::List) {
+            driftNumber(value, driftSteps(answers, index, amplitude));
             continue;
         }
-        for (int channel = 0; channel < int(value.Size()); ++channel) {
-            driftNumber(
-                *element(&value, channel), driftSteps(answers, channel, amplitude->GetInt()));
-        }
+        QVariantList channels = value.toList();
+        for (int channel = 0; channel < channels.size(); ++channel)
+            driftNumber(channels[channel], driftSteps(answers, channel, amplitude));
+        value = channels;
     }
+    return interface;
 }
 
-Json *interfaceWithQuery(JsonDocument &state, const QByteArray &query)
+QString interfaceWithQuery(const QVariantMap &interfaces, const QString &query)
 {
-    Json *const interfaces = member(&state, "interfaces");
-    if (!interfaces || !interfaces->IsObject())
-        return nullptr;
-    for (auto &entry : interfaces->GetObject()) {
-        const Json *const ownQuery = member(&entry.value, "query");
-        if (ownQuery && ownQuery->IsString() && query == ownQuery->GetString())
-            return &entry.value;
+    for (auto entry = interfaces.cbegin(); entry != interfaces.cend(); ++entry) {
+        if (valueAt(entry.value(), { QStringLiteral("query") }) == query)
+            return entry.key();
     }
-    return nullptr;
-}
-
-int count(const Json *value)
-{
-    return value && value->IsInt() ? value->GetInt() : 0;
+    return {};
 }
 
 } // namespace
 
-bool interfaceAnswer(
-    JsonDocument &state, const QByteArray &query, const QByteArray &number, JsonDocument &answer)
+QVariant interfaceAnswer(QVariant &state, const QString &query, const QString &number)
 {
-    Json *const interface = interfaceWithQuery(state, query);
-    const Json *stored = member(interface, "answer");
-    if (!stored)
-        return false;
-    Json *const answers = member(interface, "answers");
-    const Json *const drift = member(interface, "drift");
-    const Json *const enabled = member(interface, "enabled");
+    const QVariantMap interfaces = valueAt(state, { QStringLiteral("interfaces") }).toMap();
+    const QString name = interfaceWithQuery(interfaces, query);
+    if (name.isEmpty())
+        return {};
+    const QVariantMap interface = interfaces.value(name).toMap();
+    const QVariant stored = interface.value(QStringLiteral("answer"));
+    const QVariantList amplitudes = interface.value(QStringLiteral("drift")).toList();
+    const int answers = interface.value(QStringLiteral("answers")).toInt();
 
-    answer.SetArray();
-    if (stored->IsObject()) {
-        const Json *const numbered = member(stored, number);
-        if (numbered && numbered->IsArray()) {
-            answer.CopyFrom(*numbered, answer.GetAllocator());
-            driftChannels(answer, drift, count(answers));
-        }
-    } else if (stored->IsArray()) {
-        answer.CopyFrom(*stored, answer.GetAllocator());
-        for (Json &entry : answer.GetArray()) {
-            if (entry.IsArray())
-                driftChannels(entry, drift, count(answers));
-        }
+    QVariantList answer = stored.toList();
+    if (stored.type() == QVariant::Map)
+        answer = drifted(stored.toMap().value(number).toList(), amplitudes, answers);
+    for (QVariant &entry : answer) {
+        if (stored.type() == QVariant::List && entry.type() == QVariant::List)
+            entry = drifted(entry.toList(), amplitudes, answers);
     }
-    if (answers && enabled && enabled->IsTrue())
-        answers->SetInt(count(answers) + 1);
-    return true;
+    if (interface.value(QStringLiteral("enabled")).toBool()) {
+        setValueAt(
+            state, { QStringLiteral("interfaces"), name, QStringLiteral("answers") }, answers + 1);
+    }
+    return answer;
 }
 
-bool enableInterface(JsonDocument &state, const Json &request)
+bool enableInterface(QVariant &state, const QVariantList &request)
 {
-    const Json *const name = element(&request, 0);
-    const Json *const enabled = element(&request, 1);
-    if (!name || !name->IsString() || !enabled || !enabled->IsBool())
+    const QVariantList path { QStringLiteral("interfaces"), request.value(0).toString(),
+        QStringLiteral("enabled") };
+    if (request.value(1).type() != QVariant::Bool || !valueAt(state, path).isValid())
         return false;
-    Json *const stored = member(member(member(&state, "interfaces"), name->GetString()), "enabled");
-    if (stored)
-        stored->SetBool(enabled->GetBool());
-    return stored;
+    setValueAt(state, path, request.value(1));
+    return true;
 }

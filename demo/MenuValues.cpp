@@ -1,94 +1,92 @@
 #include "demo/MenuValues.h"
 
-#include <QString>
+#include "demo/DeviceState.h"
 
-#include <charconv>
+#include <QStringList>
+
 #include <cmath>
 
 namespace {
 
-bool isInteger(const Json &value)
+bool isInteger(const QVariant &value)
 {
-    return value.IsInt64() || value.IsUint64();
+    return value.type() == QVariant::LongLong || value.type() == QVariant::ULongLong;
 }
 
-template <typename Number> bool readNumber(const Json &text, Number &number)
+bool isNumber(const QVariant &value)
 {
-    const char *const end = text.GetString() + text.GetStringLength();
-    const auto result = std::from_chars(text.GetString(), end, number);
-    return result.ec == std::errc() && result.ptr == end;
+    return isInteger(value) || value.type() == QVariant::Double;
 }
 
 // The console sends a typed number as the text that was typed.
-void convertTypedNumber(const Json &stored, Json &value)
+void convertTypedNumber(const QVariant &stored, QVariant &value)
 {
-    if (!value.IsString())
+    if (value.type() != QVariant::String)
         return;
-    int64_t integer = 0;
-    double decimal = 0;
-    if (isInteger(stored) && readNumber(value, integer))
-        value.SetInt64(integer);
-    else if (stored.IsDouble() && readNumber(value, decimal) && std::isfinite(decimal))
-        value.SetDouble(decimal);
+    bool isConverted = false;
+    QVariant number;
+    if (isInteger(stored))
+        number = value.toString().toLongLong(&isConverted);
+    else if (stored.type() == QVariant::Double)
+        number = value.toString().toDouble(&isConverted);
+    if (isConverted && std::isfinite(number.toDouble()))
+        value = number;
 }
 
-bool hasTypeOf(const Json &stored, const Json &value)
+bool hasTypeOf(const QVariant &stored, const QVariant &value)
 {
-    if (stored.IsNumber())
-        return isInteger(stored) ? isInteger(value) : value.IsDouble();
-    if (stored.IsBool())
-        return value.IsBool();
-    if (stored.IsNull())
-        return value.IsNull() || value.IsString();
-    return stored.GetType() == value.GetType();
+    if (isInteger(stored))
+        return isInteger(value);
+    if (!stored.isValid())
+        return !value.isValid() || value.type() == QVariant::String;
+    return value.type() == stored.type();
 }
 
-bool isWithin(const Json *limit, const Json &value)
+bool isWithin(const QVariantMap &limit, const QVariant &value)
 {
-    if (value.IsString()) {
-        const Json *const maxLength = member(limit, "maxLength");
-        const QString text = QString::fromUtf8(value.GetString(), int(value.GetStringLength()));
-        return !maxLength || text.size() <= maxLength->GetInt();
-    }
-    if (value.IsNumber()) {
-        const Json *const min = member(limit, "min");
-        const Json *const max = member(limit, "max");
-        return (!min || value.GetDouble() >= min->GetDouble())
-            && (!max || value.GetDouble() <= max->GetDouble());
-    }
-    return true;
+    const QVariant maxLength = limit.value(QStringLiteral("maxLength"));
+    if (value.type() == QVariant::String)
+        return !maxLength.isValid() || value.toString().size() <= maxLength.toInt();
+    const QVariant min = limit.value(QStringLiteral("min"));
+    const QVariant max = limit.value(QStringLiteral("max"));
+    return !isNumber(value)
+        || ((!min.isValid() || value.toDouble() >= min.toDouble())
+            && (!max.isValid() || value.toDouble() <= max.toDouble()));
 }
 
-Json *groupOf(JsonDocument &state, const QByteArray &group)
+QVariantList pathOf(const QString &group, int instance)
 {
-    return member(member(&state, "groups"), group);
+    const QVariantList path { QStringLiteral("groups"), group };
+    if (instance < 0)
+        return path + QVariantList { QStringLiteral("values") };
+    return path + QVariantList { QStringLiteral("instances"), instance };
 }
 
 } // namespace
 
-Json *menuValues(JsonDocument &state, const QByteArray &group, int instance)
+QVariant menuValues(const QVariant &state, const QString &group, int instance)
 {
-    Json *const entry = groupOf(state, group);
-    return instance < 0 ? member(entry, "values") : element(member(entry, "instances"), instance);
+    return valueAt(state, pathOf(group, instance));
 }
 
 bool setMenuValues(
-    JsonDocument &state, const QByteArray &group, int instance, const Json &newValues)
+    QVariant &state, const QString &group, int instance, const QVariantList &newValues)
 {
-    Json *const stored = menuValues(state, group, instance);
-    if (!stored || !newValues.IsArray() || newValues.Size() != stored->Size())
+    const QVariant stored = menuValues(state, group, instance);
+    const QVariantList before = stored.toList();
+    if (!stored.isValid() || newValues.size() != before.size())
         return false;
-    const Json *const limits = member(groupOf(state, group), "limits");
-    Json accepted(newValues, state.GetAllocator());
-    for (int index = 0; index < int(accepted.Size()); ++index) {
-        const Json &before = *element(stored, index);
-        Json &value = *element(&accepted, index);
-        convertTypedNumber(before, value);
-        if (!hasTypeOf(before, value))
+    QVariantList accepted = newValues;
+    for (int index = 0; index < accepted.size(); ++index) {
+        QVariant &value = accepted[index];
+        convertTypedNumber(before.at(index), value);
+        if (!hasTypeOf(before.at(index), value))
             return false;
-        if (value != before && !isWithin(member(limits, QByteArray::number(index)), value))
+        const QVariant limit = valueAt(state,
+            { QStringLiteral("groups"), group, QStringLiteral("limits"), QString::number(index) });
+        if (value != before.at(index) && !isWithin(limit.toMap(), value))
             return false;
     }
-    stored->Swap(accepted);
+    setValueAt(state, pathOf(group, instance), accepted);
     return true;
 }

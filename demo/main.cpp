@@ -2,69 +2,71 @@
 #include "app/Session.h"
 #include "demo/DemoDevice.h"
 
+#include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <cstdio>
-#include <cstring>
+#include <optional>
 
 namespace {
 
-constexpr const char *usage =
-    "Usage: dravikon-demo [--state DIR] [--idle MS]\n"
-    "\n"
-    "Opens the service console on a simulated device.\n"
-    "\n"
-    "  --state DIR  keep the device's state in DIR and go on from there; without it\n"
-    "               the device starts afresh and is forgotten at the end\n"
-    "  --idle MS    end after MS milliseconds without a key (180000)\n"
-    "  --help       this text\n";
+enum ExitStatus { Success, NoDevice, WrongUsage };
 
 struct DemoOptions {
     QString stateDirectory; ///< empty: a temporary one
     int idleMs = SessionOptions().idleMs;
-    bool help = false;
 };
 
-bool readOptions(int argc, char **argv, DemoOptions &options)
+int failure(const QString &text, ExitStatus status)
 {
-    for (int index = 1; index < argc; ++index) {
-        const char *const option = argv[index];
-        const char *const value = index + 1 < argc ? argv[index + 1] : "";
-        bool ok = true;
-        if (std::strcmp(option, "--help") == 0) {
-            options.help = true;
-            continue;
-        }
-        if (std::strcmp(option, "--state") == 0) {
-            options.stateDirectory = QFile::decodeName(value);
-            ok = !options.stateDirectory.isEmpty();
-        } else if (std::strcmp(option, "--idle") == 0) {
-            options.idleMs = QByteArray(value).toInt(&ok);
-            ok = ok && options.idleMs > 0;
-        } else {
-            std::fprintf(stderr, "dravikon-demo: unknown option %s\n", option);
-            return false;
-        }
-        if (!ok) {
-            std::fprintf(stderr, "dravikon-demo: %s has no usable value\n", option);
-            return false;
-        }
-        ++index;
+    std::fprintf(stderr, "dravikon-demo: %s\n", text.toLocal8Bit().constData());
+    return status;
+}
+
+// The exit status where no session is to follow.
+std::optional<int> readOptions(int argc, char **argv, DemoOptions &options)
+{
+    const QCoreApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Opens the service console on a simulated device."));
+    const QCommandLineOption state(QStringLiteral("state"),
+        QStringLiteral("Keep the device's state in DIR and go on from there; without it the device "
+                       "starts afresh and is forgotten at the end."),
+        QStringLiteral("DIR"));
+    const QCommandLineOption idle(QStringLiteral("idle"),
+        QStringLiteral("End after MS milliseconds without a key (%1).").arg(options.idleMs),
+        QStringLiteral("MS"), QString::number(options.idleMs));
+    const QCommandLineOption help(QStringLiteral("help"), QStringLiteral("Print this text."));
+    parser.addOptions({ state, idle, help });
+
+    if (!parser.parse(QCoreApplication::arguments()))
+        return failure(parser.errorText(), WrongUsage);
+    if (!parser.positionalArguments().isEmpty())
+        return failure(
+            QStringLiteral("unexpected ") + parser.positionalArguments().first(), WrongUsage);
+    if (parser.isSet(help)) {
+        std::fputs(parser.helpText().toLocal8Bit().constData(), stdout);
+        return Success;
     }
-    return true;
+    options.idleMs = parser.value(idle).toInt();
+    if (options.idleMs <= 0)
+        return failure(QStringLiteral("--idle takes a number of milliseconds"), WrongUsage);
+    options.stateDirectory = parser.value(state);
+    if (parser.isSet(state) && options.stateDirectory.isEmpty())
+        return failure(QStringLiteral("--state takes a directory"), WrongUsage);
+    return std::nullopt;
 }
 
 int runOn(const QString &directory, int idleMs, char *program)
 {
-    if (!makeDemoDevice(directory)) {
-        std::fprintf(stderr, "dravikon-demo: cannot make a device in %s\n",
-            QFile::encodeName(directory).constData());
-        return 1;
-    }
+    if (!makeDemoDevice(directory))
+        return failure(QStringLiteral("cannot make a device in ") + directory, NoDevice);
     SessionOptions session;
-    session.paths = { QStringLiteral(DRAVIKON_DEMO_WEB_ROOT) };
+    session.paths.webRoot = QStringLiteral(DRAVIKON_DEMO_WEB_ROOT);
+    session.paths.settingsScript = session.paths.webRoot + QLatin1String("/scripts/settings.js");
     session.paths.backendTool = demoBackendTool(directory);
     session.idleMs = idleMs;
     int argc = 1;
@@ -77,22 +79,13 @@ int runOn(const QString &directory, int idleMs, char *program)
 int main(int argc, char **argv)
 {
     DemoOptions options;
-    if (!readOptions(argc, argv, options)) {
-        std::fputs(usage, stderr);
-        return 2;
-    }
-    if (options.help) {
-        std::fputs(usage, stdout);
-        return 0;
-    }
+    if (const std::optional<int> status = readOptions(argc, argv, options))
+        return *status;
     if (!options.stateDirectory.isEmpty())
         return runOn(QDir(options.stateDirectory).absolutePath(), options.idleMs, argv[0]);
 
     const QTemporaryDir directory(QDir::tempPath() + QLatin1String("/dravikon-demo-XXXXXX"));
-    if (!directory.isValid()) {
-        std::fprintf(stderr, "dravikon-demo: cannot make a temporary directory in %s\n",
-            QFile::encodeName(QDir::tempPath()).constData());
-        return 1;
-    }
+    if (!directory.isValid())
+        return failure(QStringLiteral("cannot make a directory in ") + QDir::tempPath(), NoDevice);
     return runOn(directory.path(), options.idleMs, argv[0]);
 }

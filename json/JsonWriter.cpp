@@ -14,16 +14,16 @@ bool writeRaw(Writer &writer, const QByteArray &json, rapidjson::Type type)
     return writer.RawValue(json.constData(), size_t(json.size()), type);
 }
 
-bool writeDouble(Writer &writer, double number)
+bool writeDouble(Writer &writer, double number, int digits)
 {
     if (!std::isfinite(number))
         return false;
     // The sign of a negative zero is a digit too, but not for the library.
-    QByteArray digits =
-        number == 0 && std::signbit(number) ? "-0" : QByteArray::number(number, 'g', 20);
-    if (!digits.contains('.') && !digits.contains('e'))
-        digits += ".0";
-    return writeRaw(writer, digits, rapidjson::kNumberType);
+    QByteArray json =
+        number == 0 && std::signbit(number) ? "-0" : QByteArray::number(number, 'g', digits);
+    if (!json.contains('.') && !json.contains('e'))
+        json += ".0";
+    return writeRaw(writer, json, rapidjson::kNumberType);
 }
 
 // The library's own escapes stop at half a surrogate pair; a text goes out as it is, unit by unit.
@@ -49,7 +49,7 @@ bool writeText(Writer &writer, const QString &text)
     return writeRaw(writer, json, rapidjson::kStringType);
 }
 
-bool writeValue(Writer &writer, const QVariant &value)
+bool writeValue(Writer &writer, const QVariant &value, int digits)
 {
     switch (int(value.type())) {
     case QVariant::Invalid:
@@ -64,12 +64,12 @@ bool writeValue(Writer &writer, const QVariant &value)
         return writer.Uint64(value.toULongLong());
     case QVariant::Double:
     case QMetaType::Float:
-        return writeDouble(writer, value.toDouble());
+        return writeDouble(writer, value.toDouble(), digits);
     case QVariant::List: {
         const QVariantList list = value.toList();
         writer.StartArray();
         for (const QVariant &element : list) {
-            if (!writeValue(writer, element))
+            if (!writeValue(writer, element, digits))
                 return false;
         }
         return writer.EndArray();
@@ -79,7 +79,7 @@ bool writeValue(Writer &writer, const QVariant &value)
         writer.StartObject();
         for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
             writeText(writer, entry.key());
-            if (!writeValue(writer, entry.value()))
+            if (!writeValue(writer, entry.value(), digits))
                 return false;
         }
         return writer.EndObject();
@@ -91,11 +91,11 @@ bool writeValue(Writer &writer, const QVariant &value)
 
 } // namespace
 
-std::optional<QByteArray> jsonText(const QVariant &value)
+std::optional<QByteArray> jsonText(const QVariant &value, int digits)
 {
     rapidjson::StringBuffer buffer;
     Writer writer(buffer);
-    if (!writeValue(writer, value))
+    if (!writeValue(writer, value, digits))
         return std::nullopt;
     return QByteArray(buffer.GetString(), int(buffer.GetSize()));
 }
