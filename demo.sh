@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Opens the console on a simulated device in this terminal, after installing and building what is
-# missing for that.
+# Opens the console on a simulated device in this terminal. Installs the packages that this needs
+# and builds first.
 set -euo pipefail
 
 help() {
@@ -8,29 +8,60 @@ help() {
 Usage: ./demo.sh [--state DIR] [--idle MS] [--help]
 
 Opens the Dravikon console on a simulated truck controller, in this terminal. On
-Debian 12 it first installs the packages that are missing for the build (with
-sudo when you are not root) and builds the demo in build/release.
+Debian 12 it first installs the packages that the build needs (with sudo when
+you are not root), and builds the demo and dravikon-menu-check in build/release.
 
-  --state DIR  keep the device's state in DIR and go on from there next time;
-               without it the device starts afresh and is forgotten at the end
-  --idle MS    end after MS milliseconds without a key (180000)
+  --state DIR  keep the device's state in DIR and continue from there next time;
+               without it each session starts with a fresh device
+  --idle MS    end after MS milliseconds without a key (default 180000)
+  -h, --help   show this help
 
 Keys in the menu
   Up, Down, PgUp, PgDn   move the selection
-  Return                 "->" opens or closes, " *" changes a value,
-                         " $" shows an interface
-  q, Q                   end
+  Return                 open or close a screen "->", change a value "*",
+                         show an interface "$"; nothing on "-" and "#"
+  q, Q                   end (only here, not in a dialog)
+  "+" marks the first line of an opened screen.
 
 Keys in a dialog
   Up, Down               choose from a list
   Left, Right            move the slider, or the cursor in a text
+  Backspace              erase the character before the cursor
   Return                 write the value to the device
   Esc Esc                leave without a change
+
+A text is green when it is accepted and red when it is not. Return on red closes
+the dialog and writes nothing. "Enter new Value 10" stands for up to 10
+characters; with 0 nothing can be entered. Use no other keys: Delete, Home, End
+and function keys can leave characters in the text.
 
 Keys on an interface screen
   PgUp, PgDn             previous, next interface
   any other key          fresh values
   Esc Esc                leave
+
+Ctrl-C ends the session at any time.
+
+A tour
+  Lists, on and off      Parameters, Display and sound: Volume unit, Night mode
+  A slider               Parameters, Display and sound: Brightness
+  A text                 Parameters, Delivery tickets: Header line 1
+  A number               Parameters, Limits: Flow in l/min; above 2500 it is red
+  A refused value        the same with 1300: it is green, but the device takes no
+                         more than 1200, so the dialog stays open; Esc Esc
+  The seal               Electronic seal: set Seal closed to false; the settings
+                         below, and many others, then have "*"
+  A page that scrolls    Service, Event log: PgDn, PgUp
+  Live values            Service, Diagnose, SPD interfaces: press any key
+  A faulty module        Service, Diagnose, IO interfaces: PgDn
+  "Not Available"        Service, Diagnose, IO interfaces: PgDn to 4/4
+  An unknown code        Parameters, Compartments, Compartment 5: the product is
+                         a code that the menu does not list, so none is shown
+
+Some fields have "*" but cannot be changed. Those whose rule only browsers know
+(Interfaces, Network: Address; Limits: Density) show "Enter new Value 0", others
+are always red (Limits: Pressure code). Service, Function tests cannot be
+written at all: the dialog stays open after Return, as after a refusal.
 
 The state
   DIR/state.json         all values of the device, written by its backend tool
@@ -38,20 +69,30 @@ The state
                          DIR/DBusController get_menu truck_setup
   DIR/calls.log          if you create it, one line for each run of the tool
 
-Settings marked for the open seal cannot be changed before "Seal closed" under
-"Electronic seal" is false. The device refuses what is beyond its own limits,
-for instance a flow above 1200 l/min: the dialog then stays open.
-
-The console writes Latin-1, as the terminals at the truck expect it. A UTF-8
-terminal leaves out the umlauts that some of the device's texts contain.
+Umlauts
+The console reads and writes Latin-1, like the terminals used at the truck. In a
+UTF-8 terminal demo.sh runs it under luit, which converts, if luit is installed;
+otherwise umlauts are missing, and a typed one is stored as two characters.
 END
 }
 
-for option in "$@"; do
-    if [[ $option == --help ]]; then
-        help
-        exit 0
-    fi
+fail() {
+    echo "demo.sh: $1, see ./demo.sh --help" >&2
+    exit 2
+}
+
+options=("$@")
+while (($#)); do
+    case $1 in
+    -h | --help)
+        help | ${PAGER:-pager}
+        exit
+        ;;
+    --state) [[ ${2-} ]] || fail "--state needs a directory" ;;
+    --idle) [[ ${2-} =~ ^[1-9][0-9]{0,8}$ ]] || fail "--idle needs a number of milliseconds" ;;
+    *) fail "unknown option $1" ;;
+    esac
+    shift 2
 done
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -59,6 +100,11 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 (
     cd "$root"
     cmake --preset release --log-level=WARNING
-    cmake --build --preset release --target dravikon-demo dravikon-demo-tool
+    cmake --build --preset release --target dravikon-demo dravikon-demo-tool dravikon-menu-check
 )
-exec "$root/build/release/demo/dravikon-demo" "$@"
+
+converter=()
+if [[ -t 0 && -t 1 && -t 2 && $(locale charmap) == UTF-8 ]] && command -v luit >/dev/null; then
+    converter=(luit -encoding "ISO 8859-1" --)
+fi
+exec "${converter[@]}" "$root/build/release/demo/dravikon-demo" "${options[@]}"
