@@ -2,8 +2,7 @@
 #include "app/TerminalGui.h"
 
 #include "app/ResizeSignal.h"
-#include "render/Selection.h"
-#include "render/ValueCommit.h"
+#include "render/ValueDialog.h"
 
 #include <QCoreApplication>
 
@@ -33,7 +32,7 @@ void TerminalGui::processKeyEvent(Qt::Key key)
     case DiagnoseView:
         processDiagnoseKey(key);
         break;
-    default:
+    case NoView:
         break;
     }
     refreshView();
@@ -45,9 +44,9 @@ void TerminalGui::processStartKey(int key)
     case Qt::Key_Return:
         return chooseStart();
     case Qt::Key_Up:
-        return moveVertically(-1);
+        return moveSelection(state, handler, false, -1);
     case Qt::Key_Down:
-        return moveVertically(+1);
+        return moveSelection(state, handler, false, +1);
     default:
         if (isQuit(key))
             closeGui();
@@ -59,13 +58,13 @@ void TerminalGui::processMenuKey(int key)
     const int page = state.termRows - 2;
     switch (key) {
     case Qt::Key_Up:
-        return moveVertically(-1);
+        return moveSelection(state, handler, false, -1);
     case Qt::Key_Down:
-        return moveVertically(+1);
+        return moveSelection(state, handler, false, +1);
     case Qt::Key_PageUp:
-        return moveVertically(-page);
+        return moveSelection(state, handler, false, -page);
     case Qt::Key_PageDown:
-        return moveVertically(+page);
+        return moveSelection(state, handler, false, +page);
     case Qt::Key_Return:
         return activateItem();
     default:
@@ -81,19 +80,19 @@ void TerminalGui::processEditKey(int key)
     case Qt::Key_Escape:
         return dropEdit();
     case Qt::Key_Backspace:
-        return removeCharacter();
+        return removeCharacter(state, handler);
     case Qt::Key_Return:
         return confirmEdit();
     case Qt::Key_Left:
-        return moveHorizontally(-1);
+        return moveSelection(state, handler, true, -1);
     case Qt::Key_Right:
-        return moveHorizontally(+1);
+        return moveSelection(state, handler, true, +1);
     case Qt::Key_Up:
-        return moveVertically(-1);
+        return moveSelection(state, handler, false, -1);
     case Qt::Key_Down:
-        return moveVertically(+1);
+        return moveSelection(state, handler, false, +1);
     default:
-        return typeCharacter(key);
+        return typeCharacter(state, handler, key);
     }
 }
 
@@ -102,24 +101,14 @@ void TerminalGui::processDiagnoseKey(int key)
     state.overlayLines.clear();
     switch (key) {
     case Qt::Key_PageUp:
-        return moveVertically(-1);
+        return moveSelection(state, handler, false, -1);
     case Qt::Key_PageDown:
-        return moveVertically(+1);
+        return moveSelection(state, handler, false, +1);
     case Qt::Key_Escape:
         return leaveDiagnose();
     default:
         break;
     }
-}
-
-void TerminalGui::moveVertically(int delta)
-{
-    moveSelection(state, handler, false, delta);
-}
-
-void TerminalGui::moveHorizontally(int delta)
-{
-    moveSelection(state, handler, true, delta);
 }
 
 void TerminalGui::chooseStart()
@@ -129,14 +118,14 @@ void TerminalGui::chooseStart()
         closeGui();
         return;
     }
-    state.forgetMenuLines();
+    state.menuLines.clear();
     state.requestedView = MenuView;
 }
 
 void TerminalGui::activateItem()
 {
     const TreeViewItem *const item = state.selectedItem();
-    const int kind = item ? handler.diagnoseScreen(*item) : int(NoInterface);
+    const InterfaceKind kind = item ? handler.diagnoseScreen(*item) : NoInterface;
     if (item && handler.isEditable(*item)) {
         state.requestedView = EditView;
     } else if (kind != NoInterface) {
@@ -151,7 +140,7 @@ void TerminalGui::toggleSelected()
 {
     handler.toggleItem(*root, state.selectedItem(), false);
     numberItems();
-    state.forgetMenuLines();
+    state.menuLines.clear();
 }
 
 void TerminalGui::leaveDiagnose()
@@ -159,22 +148,6 @@ void TerminalGui::leaveDiagnose()
     state.requestedView = MenuView;
     if (const TreeViewItem *const item = state.selectedItem())
         handler.enableInterface(handler.diagnoseScreen(*item), false);
-}
-
-void TerminalGui::typeCharacter(int key)
-{
-    const bool isByte = key >= 0 && key <= 0xff;
-    if (!isByte || state.editBuffer.size() >= state.rangeLimit)
-        return;
-    state.editBuffer.insert(qBound(0, state.dialogValue, state.editBuffer.size()), QChar(key));
-    moveHorizontally(+1);
-}
-
-void TerminalGui::removeCharacter()
-{
-    moveHorizontally(-1);
-    if (state.dialogValue >= 0)
-        state.editBuffer.remove(state.dialogValue, 1);
 }
 
 void TerminalGui::confirmEdit()
@@ -186,7 +159,7 @@ void TerminalGui::confirmEdit()
         return;
     }
     state.hasRefusedValue = false;
-    state.forgetMenuLines();
+    state.menuLines.clear();
     state.requestedView = MenuView;
 }
 
@@ -194,7 +167,7 @@ void TerminalGui::dropEdit()
 {
     // A value that the backend refused must not go out with the next write of its group.
     if (state.hasRefusedValue)
-        state.forgetMenuLines();
+        state.menuLines.clear();
     state.hasRefusedValue = false;
     state.requestedView = MenuView;
 }

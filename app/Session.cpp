@@ -4,6 +4,7 @@
 #include "app/ResizeSignal.h"
 #include "app/SignalHandlers.h"
 #include "app/TerminalGui.h"
+#include "app/TerminalOutput.h"
 #include "app/TerminalReader.h"
 #include "device/BackendTool.h"
 #include "locale/CTranslationHandler.h"
@@ -50,7 +51,7 @@ int runConsole(const SessionOptions &options)
     BackendTool::setSignalMask(ResizeSignal::hold());
     installRestoringHandlers();
     CTranslationHandler::setInstanceRoot(options.paths.webRoot);
-    auto gui = std::make_unique<TerminalGui>(options.paths);
+    auto gui = std::make_unique<TerminalGui>(options.paths, writeToTerminal);
     auto reader = std::make_unique<TerminalReader>(options.idleMs);
     installSessionHandlers(*gui);
     reader->init();

@@ -1,15 +1,11 @@
 #include "app/TerminalGui.h"
 
 #include "app/ResizeSignal.h"
-#include "app/TerminalOutput.h"
 #include "diagnose/DiagnoseScreen.h"
 #include "render/Bars.h"
-#include "render/EditDialog.h"
 #include "render/FrameComposer.h"
-#include "render/InputValidation.h"
-#include "render/ListDialog.h"
 #include "render/MenuView.h"
-#include "render/SliderDialog.h"
+#include "render/ValueDialog.h"
 
 #include <QCoreApplication>
 #include <QTimer>
@@ -17,9 +13,9 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-TerminalGui::TerminalGui(const DevicePaths &paths)
+TerminalGui::TerminalGui(const DevicePaths &paths, Screen::Sink sink)
     : handler(paths)
-    , screen(writeToTerminal)
+    , screen(std::move(sink))
 {
     updateWindowSize();
 }
@@ -35,8 +31,8 @@ void TerminalGui::updateWindowSize()
     winsize size = {};
     ioctl(STDIN_FILENO, TIOCGWINSZ, &size);
     const bool isKnown = size.ws_col != 0 && size.ws_row != 0;
-    state.termColumns = isKnown ? size.ws_col : 80;
-    state.termRows = isKnown ? size.ws_row : 24;
+    state.termColumns = isKnown ? size.ws_col : standardColumns;
+    state.termRows = isKnown ? size.ws_row : standardRows;
 }
 
 void TerminalGui::initTerminal()
@@ -55,7 +51,7 @@ void TerminalGui::prepareResize()
 void TerminalGui::resizeTerminal()
 {
     updateWindowSize();
-    state.forgetMenuLines();
+    state.menuLines.clear();
     state.overlayLines.clear();
     initTerminal();
 }
@@ -87,16 +83,10 @@ void TerminalGui::refreshView()
 
 void TerminalGui::prepareView()
 {
-    if (state.requestedView == MenuView) {
+    if (state.requestedView == MenuView)
         openMenu();
-    } else {
-        state.listMin = 0;
-        state.optionCount = 0;
-        state.rangeMin = 0;
-        state.rangeLimit = 0;
-        state.listIndex = -1;
-        state.dialogValue = -1;
-    }
+    else
+        state.resetDialog();
     if (state.requestedView == StartView) {
         state.overlayLines.clear();
         state.step = 1;
@@ -125,24 +115,15 @@ void TerminalGui::numberItems()
 
 void TerminalGui::drawMenu()
 {
-    if (!state.hasMenuLines && state.currentView != StartView && root)
-        renderMenu();
+    if (state.menuLines.isEmpty() && state.currentView != StartView && root) {
+        handler.refreshValues(*root);
+        state.menuLines = menuLines(handler, *root, state.termColumns, &state.statusText);
+    }
     if (state.overlayLines.isEmpty() && state.currentView != MenuView)
         buildOverlay(state.selectedIndex);
 
-    const TreeViewItem *const item = state.selectedItem();
-    const CursorPosition cursor = editPosition(state, item ? fieldLength(handler, *item) : 0);
     const QString title = titleBar(handler.setupStructureVersion(), state.dbcVersion);
-    screen.show(composeFrame(state, title), state.termRows, cursor);
-}
-
-void TerminalGui::renderMenu()
-{
-    handler.refreshValues(*root);
-    int line = 0;
-    MenuRenderer(handler, state.termColumns, state.statusText)
-        .renderItemLines(*root, line, state.menuLines);
-    state.hasMenuLines = true;
+    screen.show(composeFrame(state, title), state.termRows, editPosition(state, handler));
 }
 
 void TerminalGui::buildOverlay(int line)
@@ -154,30 +135,18 @@ void TerminalGui::buildOverlay(int line)
         break;
     case EditView:
         if (item)
-            buildDialog(*item);
-        break;
-    case DiagnoseView:
-        state.overlayLines = diagnoseScreen(state, handler, item);
-        break;
-    default:
-        break;
-    }
-}
-
-void TerminalGui::buildDialog(const TreeViewItem &item)
-{
-    if (handler.isInputKind(item, DropdownInput)) {
-        state.overlayLines = listSelector(state, handler, item);
-    } else if (handler.isInputKind(item, BooleanInput)) {
-        state.overlayLines = booleanSelector(state, item);
-    } else if (handler.isInputKind(item, SliderInput)) {
-        state.overlayLines = sliderDialog(state, handler, item);
-    } else if (handler.isInputKind(item, EditInput)) {
-        state.overlayLines = editDialog(state, handler, item);
-        if (!screen.isCursorVisible()) {
+            state.overlayLines = valueDialog(state, handler, *item);
+        if (item && handler.inputKind(*item) == EditInput && !screen.isCursorVisible()) {
             // From the first row, the line break that follows cannot scroll the screen.
             screen.moveCursorTo(0, 0);
             screen.setCursorVisible(true);
         }
+        break;
+    case DiagnoseView:
+        state.overlayLines = diagnoseScreen(state, handler, item);
+        break;
+    case MenuView:
+    case NoView:
+        break;
     }
 }

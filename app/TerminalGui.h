@@ -13,8 +13,9 @@
 class TerminalGui : public QObject {
     Q_OBJECT
 public:
-    /// Reads the window size and switches the terminal to single keys; draws nothing yet.
-    explicit TerminalGui(const DevicePaths &paths = {});
+    /// Reads the window size and switches the terminal to single keys; draws nothing yet. All
+    /// output goes to `sink`, so that keys can also be played without a terminal.
+    TerminalGui(const DevicePaths &paths, Screen::Sink sink);
 
     /// Restores the terminal and leaves it cleared.
     ~TerminalGui() override;
@@ -52,20 +53,14 @@ private:
     void openMenu();
     void numberItems();
     void drawMenu();
-    void renderMenu();
     void buildOverlay(int line);
-    void buildDialog(const TreeViewItem &item);
 
     void processStartKey(int key);
     void processMenuKey(int key);
     void processEditKey(int key);
     void processDiagnoseKey(int key);
-    void moveVertically(int delta);
-    void moveHorizontally(int delta);
     void activateItem();
     void toggleSelected();
-    void typeCharacter(int key);
-    void removeCharacter();
     void confirmEdit();
     void dropEdit();
     void leaveDiagnose();

@@ -1,32 +1,9 @@
 // What the menu and the diagnose screens ask of the backend, and what they tell it.
 #include "menu/TreeViewItemHandler.h"
 
-#include <array>
-
 namespace {
 
 constexpr int sealedAccessLevel = 4;
-constexpr int openAccessLevel = 6;
-
-struct InterfaceWords {
-    const char *listQuery;
-    const char *name;
-};
-
-constexpr std::array<InterfaceWords, 7> interfaceWords = { {
-    { "", "" },
-    { "get_menu_service_diagnose_spd_interfaces", "SpdInterface" },
-    { "get_menu_service_diagnose_io_interfaces", "IoInterface" },
-    { "get_menu_service_diagnose_wetleg_interfaces", "WetlegInterface" },
-    { "get_menu_service_diagnose_tag_interfaces", "TagInterface" },
-    { "get_menu_service_diagnose_as_interfaces", "AsInterface" },
-    { "get_menu_service_diagnose_level_interfaces", "LevelInterface" },
-} };
-
-bool isInterface(int kind)
-{
-    return kind > NoInterface && kind < int(interfaceWords.size());
-}
 
 // Repeated screens share their words; the number of the compartment or meter tells them apart.
 QStringList argumentsOf(const QString &binding, int index)
@@ -59,34 +36,39 @@ void TreeViewItemHandler::readOpenItems(TreeViewItem &item)
 {
     if (!item.expanded)
         return;
-    if (!item.children.empty() && &item != itemJustRead && hasReadBinding(item))
+    if (!item.children.empty() && &item != itemJustRead)
         readValues(item);
     for (const auto &child : item.children)
         readOpenItems(*child);
 }
 
-void TreeViewItemHandler::readValues(TreeViewItem &item)
+bool TreeViewItemHandler::readValues(TreeViewItem &item)
 {
-    assignItemValues(item, script.read(argumentsOf(readBinding(item), item.index), true));
+    const std::optional<QString> binding = readBinding(item);
+    if (binding)
+        assignItemValues(item, script.read(argumentsOf(*binding, item.index), true));
+    return binding.has_value();
 }
 
-QVariantList TreeViewItemHandler::interfaceList(int kind, int tagNumber)
+QVariantList TreeViewItemHandler::interfaceList(InterfaceKind kind, int tagNumber)
 {
-    if (!isInterface(kind))
+    const char *const query = wordsOf(kind).listQuery;
+    if (!query)
         return {};
-    QStringList arguments(QLatin1String(interfaceWords[size_t(kind)].listQuery));
+    QStringList arguments(QLatin1String { query });
     if (kind == TagInterface)
         arguments.append(QString::number(tagNumber));
     return script.read(arguments, true);
 }
 
-bool TreeViewItemHandler::enableInterface(int kind, bool enabled)
+bool TreeViewItemHandler::enableInterface(InterfaceKind kind, bool enabled)
 {
-    if (!isInterface(kind))
+    const char *const name = wordsOf(kind).name;
+    if (!name)
         return false;
     QStringList arguments(QStringLiteral("button_service_diagnose_enable_if"));
     // The tool's answer does not matter: the screen shows whether data arrive.
-    script.write(arguments, { QLatin1String(interfaceWords[size_t(kind)].name), enabled });
+    script.write(arguments, { QLatin1String(name), enabled });
     return true;
 }
 
@@ -97,10 +79,8 @@ bool TreeViewItemHandler::toggleItem(TreeViewItem &node, const TreeViewItem *tar
         closing = node.expanded;
         if (!closing) {
             node.expanded = true;
-            if (hasReadBinding(node)) {
-                readValues(node);
+            if (readValues(node))
                 itemJustRead = &node;
-            }
             return true;
         }
     }
@@ -118,16 +98,17 @@ bool TreeViewItemHandler::toggleItem(TreeViewItem &node, const TreeViewItem *tar
 bool TreeViewItemHandler::writeItemValues(const TreeViewItem &item)
 {
     const TreeViewItem *const group = item.parentItem;
-    if (!group || !hasWriteBinding(*group))
+    const std::optional<QString> binding = group ? writeBinding(*group) : std::nullopt;
+    if (!binding)
         return false;
-    QStringList arguments = argumentsOf(writeBinding(*group), item.index);
+    QStringList arguments = argumentsOf(*binding, item.index);
     return script.write(arguments, collectItemValues(*group));
 }
 
 // The backend's lists are positional: one value for each child but separators and buttons.
 bool TreeViewItemHandler::isValueBearing(const TreeViewItem &item) const
 {
-    const int kind = inputKind(item);
+    const InputKind kind = inputKind(item);
     return kind != SeparatorInput && kind != ButtonInput;
 }
 

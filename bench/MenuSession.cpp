@@ -5,7 +5,7 @@
 #include "render/Bars.h"
 #include "render/FrameComposer.h"
 #include "render/MenuView.h"
-#include "render/Selection.h"
+#include "render/ValueDialog.h"
 
 #include <QByteArrayList>
 #include <QVector>
@@ -95,20 +95,17 @@ void MenuSession::openAll()
 {
     open(*root);
     numberItems();
-    state.forgetMenuLines();
+    state.menuLines.clear();
 }
 
 void MenuSession::draw()
 {
-    if (!state.hasMenuLines) {
+    if (state.menuLines.isEmpty()) {
         handler.refreshValues(*root);
-        int line = 0;
-        MenuRenderer(handler, state.termColumns, state.statusText)
-            .renderItemLines(*root, line, state.menuLines);
-        state.hasMenuLines = true;
+        state.menuLines = menuLines(handler, *root, state.termColumns, &state.statusText);
     }
     const QString title = titleBar(handler.setupStructureVersion(), state.dbcVersion);
-    screen.show(composeFrame(state, title), state.termRows, editPosition(state, 0));
+    screen.show(composeFrame(state, title), state.termRows, editPosition(state, handler));
 }
 
 void MenuSession::move(int lines)
@@ -121,7 +118,7 @@ void MenuSession::toggle()
 {
     handler.toggleItem(*root, state.selectedItem(), false);
     numberItems();
-    state.forgetMenuLines();
+    state.menuLines.clear();
     draw();
 }
 

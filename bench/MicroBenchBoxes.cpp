@@ -5,9 +5,7 @@
 #include "diagnose/AsScreen.h"
 #include "diagnose/PagedScreen.h"
 #include "diagnose/TagScreen.h"
-#include "render/EditDialog.h"
-#include "render/ListDialog.h"
-#include "render/SliderDialog.h"
+#include "render/ValueDialog.h"
 
 #include <QVector>
 
@@ -22,7 +20,7 @@ const QByteArray script = "var Settings = { setupStructureVersion: 7, settings: 
                           "{ i18n: 'text', inputType: 'edit', remote: 1, validation: 'C20' }"
                           "] }] };";
 
-template <typename Draw> void drawDialog(benchmark::State &state, int field, Draw draw)
+void drawDialog(benchmark::State &state, int field)
 {
     MenuSession session(script);
     session.state.currentView = EditView;
@@ -31,15 +29,14 @@ template <typename Draw> void drawDialog(benchmark::State &state, int field, Dra
     item.value = 1;
     const Allocations allocations(state);
     for (auto _ : state) {
-        session.state.overlayLines = draw(session.state, session.handler, item);
+        session.state.overlayLines = valueDialog(session.state, session.handler, item);
         session.draw();
     }
 }
-BENCHMARK_CAPTURE(drawDialog, list, 0, listSelector);
-BENCHMARK_CAPTURE(drawDialog, boolean, 1,
-    [](auto &state, const auto &, const auto &item) { return booleanSelector(state, item); });
-BENCHMARK_CAPTURE(drawDialog, slider, 2, sliderDialog);
-BENCHMARK_CAPTURE(drawDialog, edit, 3, editDialog);
+BENCHMARK_CAPTURE(drawDialog, list, 0);
+BENCHMARK_CAPTURE(drawDialog, boolean, 1);
+BENCHMARK_CAPTURE(drawDialog, slider, 2);
+BENCHMARK_CAPTURE(drawDialog, edit, 3);
 
 QVariant numbers(int count)
 {
@@ -67,11 +64,11 @@ template <typename Draw> void drawDiagnose(benchmark::State &state, Draw draw)
 }
 BENCHMARK_CAPTURE(drawDiagnose, spd, [](Frame &frame) {
     static const QVariantList answer { QVariant(versionsAnd({ numbers(20) })) };
-    drawPagedScreen(frame, SpdInterface, 0, 4, answer);
+    drawPagedScreen(frame, spdLayout, 0, 4, answer);
 });
 BENCHMARK_CAPTURE(drawDiagnose, io, [](Frame &frame) {
     static const QVariantList answer { QVariant(versionsAnd({ numbers(2), numbers(8) })) };
-    drawPagedScreen(frame, IoInterface, 0, 4, answer);
+    drawPagedScreen(frame, ioLayout, 0, 4, answer);
 });
 BENCHMARK_CAPTURE(drawDiagnose, tag, [](Frame &frame) {
     static const QVariantList tag = numbers(9).toList();

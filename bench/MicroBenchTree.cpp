@@ -59,7 +59,7 @@ void buildTreeOfScreens(benchmark::State &state, bool cold)
     for (auto _ : state) {
         chillCaches(state, cold);
         const ScreenIndex screens(settings, handler.names());
-        auto root = buildTree(settings.property(0), screens, {}, handler);
+        auto root = buildTree(settings.property(0), screens, {}, handler.names());
         const Unmeasured scope(state);
         root.reset();
     }
@@ -91,11 +91,9 @@ void renderItemLines(benchmark::State &state, bool cold)
     const Allocations allocations(state);
     for (auto _ : state) {
         chillCaches(state, cold);
-        Frame lines;
-        int line = 0;
-        MenuRenderer(session.handler, 80, session.state.statusText)
-            .renderItemLines(*session.root, line, lines);
-        benchmark::DoNotOptimize(lines);
+        const Frame lines =
+            menuLines(session.handler, *session.root, 80, &session.state.statusText);
+        benchmark::DoNotOptimize(&lines);
     }
     state.SetComplexityN(state.range(0));
 }
@@ -113,8 +111,8 @@ template <typename Query> void askOfField(benchmark::State &state, Query query)
 }
 BENCHMARK_CAPTURE(askOfField, labelKey,
     [](const auto &handler, const auto &item) { return handler.labelKey(item); });
-BENCHMARK_CAPTURE(askOfField, isInputKind,
-    [](const auto &handler, const auto &item) { return handler.isInputKind(item, SliderInput); });
+BENCHMARK_CAPTURE(askOfField, inputKind,
+    [](const auto &handler, const auto &item) { return handler.inputKind(item); });
 BENCHMARK_CAPTURE(askOfField, isEditable,
     [](const auto &handler, const auto &item) { return handler.isEditable(item); });
 BENCHMARK_CAPTURE(askOfField, isVisible,

@@ -1,12 +1,14 @@
 #include "check/Findings.h"
 
+#include "menu/RepeatedScreen.h"
+
 namespace {
 
 Findings listFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
     const int count = handler.valueCount(item);
     // A read-only item that shows the number itself needs no texts.
-    if (count == 0 && (handler.isInputKind(item, DropdownInput) || !handler.isInteger(item))) {
+    if (count == 0 && (handler.inputKind(item) == DropdownInput || !handler.isInteger(item))) {
         return { error("no-values",
             QStringLiteral("a list without \"values\" shows nothing; list its texts")) };
     }
@@ -37,19 +39,15 @@ Findings sliderFindings(const TreeViewItemHandler &handler, const TreeViewItem &
 
 bool hasKnownInputType(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
-    bool isKnown = !item.definition.property(handler.names().inputType).isValid();
-    for (int kind = SeparatorInput; kind <= PlainInput && !isKnown; ++kind)
-        isKnown = handler.isInputKind(item, kind);
-    return isKnown;
+    return !item.definition.property(handler.names().inputType).isValid()
+        || handler.inputKind(item) != NoInput;
 }
 
 bool hasKnownType(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
-    bool isKnown = !item.definition.property(handler.names().type).isValid()
-        || handler.isCompartmentButton(item.definition) || handler.isMeterButton(item.definition);
-    for (int kind = CompartmentStatusType; kind <= StatusType && !isKnown; ++kind)
-        isKnown = handler.isType(item, kind);
-    return isKnown;
+    const PropertyNames &names = handler.names();
+    return !item.definition.property(names.type).isValid() || handler.typeKind(item) != NoType
+        || isCompartmentButton(item.definition, names) || isMeterButton(item.definition, names);
 }
 
 } // namespace
@@ -73,11 +71,12 @@ Findings wordFindings(const TreeViewItemHandler &handler, const TreeViewItem &it
 
 Findings valueFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
-    if (handler.isInputKind(item, DropdownInput) || handler.isInputKind(item, SelectLabelInput))
+    const InputKind kind = handler.inputKind(item);
+    if (kind == DropdownInput || kind == SelectLabelInput)
         return listFindings(handler, item);
     if (!handler.isEditable(item))
         return {};
-    if (handler.isInputKind(item, SliderInput))
+    if (kind == SliderInput)
         return sliderFindings(handler, item);
-    return handler.isInputKind(item, EditInput) ? ruleFindings(handler, item) : Findings();
+    return kind == EditInput ? ruleFindings(handler, item) : Findings();
 }

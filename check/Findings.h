@@ -50,6 +50,6 @@ Findings valueFindings(const TreeViewItemHandler &handler, const TreeViewItem &i
 /// Why an edit item refuses whatever is typed; empty when there is a text that it takes.
 Findings ruleFindings(const TreeViewItemHandler &handler, const TreeViewItem &item);
 
-/// Texts of a visible item, `depth` levels below the root, that have no translation, hold
-/// characters beyond Latin-1 or reach into the values.
-Findings textFindings(const TreeViewItemHandler &handler, const TreeViewItem &item, int depth);
+/// Texts of a visible item that have no translation, hold characters beyond Latin-1 or reach into
+/// the values.
+Findings textFindings(const TreeViewItemHandler &handler, const TreeViewItem &item);

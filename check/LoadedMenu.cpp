@@ -2,11 +2,9 @@
 
 #include "menu/TreeBuilder.h"
 #include "render/MenuView.h"
+#include "render/ViewState.h"
 
 namespace {
-
-constexpr int openSealLevel = 6;
-constexpr int terminalColumns = 80;
 
 void expandAll(TreeViewItem &item)
 {
@@ -22,20 +20,17 @@ LoadedMenu::LoadedMenu(const DevicePaths &paths)
     , handler(paths)
     , settings(handler.scriptHelper().load())
     , screens(settings, handler.names())
-    , root(buildTree(settings.property(0), screens, { 1, 1 }, handler))
+    , root(buildTree(settings.property(0), screens, { 1, 1 }, handler.names()))
 {
-    handler.setAccessLevel(openSealLevel);
+    handler.setAccessLevel(TreeViewItemHandler::openAccessLevel);
 }
 
 QStringList menuOutline(LoadedMenu &menu)
 {
     expandAll(*menu.root);
-    Frame lines;
-    int count = 0;
-    QString note;
-    MenuRenderer(menu.handler, terminalColumns, note).renderItemLines(*menu.root, count, lines);
+    const Frame lines = menuLines(menu.handler, *menu.root, standardColumns);
     QStringList shown;
-    for (const QString &text : qAsConst(lines))
+    for (const QString &text : lines)
         shown.push_back(QString::fromLatin1(text.toLatin1()));
     return shown;
 }

@@ -29,7 +29,7 @@ public:
 
     QStringList run()
     {
-        visit(*menu.root, 0, Presence::Shown);
+        visit(*menu.root, Presence::Shown);
         for (int screen = 0; screen < menu.screens.size(); ++screen) {
             if (menu.screens.at(screen).isObject())
                 checkPresence(menu.screens.at(screen), screen);
@@ -38,7 +38,7 @@ public:
     }
 
 private:
-    void visit(const TreeViewItem &item, int depth, Presence presence)
+    void visit(const TreeViewItem &item, Presence presence)
     {
         if (presence == Presence::Shown)
             presence = presenceOf(item);
@@ -53,10 +53,10 @@ private:
             report(item, bindingFindings(handler, item));
             report(item, valueFindings(handler, item));
             if (item.parentItem)
-                report(item, textFindings(handler, item, depth));
+                report(item, textFindings(handler, item));
         }
         for (const auto &child : item.children)
-            visit(*child, depth + 1, presence);
+            visit(*child, presence);
     }
 
     Presence presenceOf(const TreeViewItem &item) const
@@ -76,7 +76,7 @@ private:
         if (!reached.contains(id)) {
             report(item, { unreachedFinding(menu, screen) });
             report(item, referenceFindings(menu, definition));
-        } else if (!decided.contains(id) && handler.hasReadBinding(item)) {
+        } else if (!decided.contains(id) && handler.readBinding(item)) {
             report(item,
                 { warning("hidden-read",
                     QStringLiteral(

@@ -22,16 +22,15 @@ bool isReserved(const QString &rule)
         || rule.startsWith(QLatin1String("DATE.")) || rule.startsWith(QLatin1String("GPS"));
 }
 
-QString whyNothingFits(const QString &rule)
+QString whyNothingFits(const QString &rule, const InputRule &parts)
 {
     if (isReserved(rule))
         return QStringLiteral("works in the web interface alone; \"remote\" 2 shows it read-only");
-    const bool isNumber = rule.startsWith(QLatin1Char('N'));
-    if (!isNumber && !rule.startsWith(QLatin1Char('C')))
+    if (parts.kind == InputRule::Refusing)
         return QStringLiteral("is unknown; use \"C\" or \"N\" and the length");
-    if (isNumber && rule.contains(QLatin1Char('.')))
+    if (parts.kind == InputRule::Number && rule.contains(QLatin1Char('.')))
         return QStringLiteral("is for decimals, which are refused; use a smaller unit");
-    if (!strictInteger(rule.mid(1)))
+    if (!parts.length)
         return QStringLiteral("has no whole number behind its letter; write the length there");
     return QStringLiteral("leaves nothing to type; correct its length or the \"range\"");
 }
@@ -47,13 +46,14 @@ Findings ruleFindings(const TreeViewItemHandler &handler, const TreeViewItem &it
     if (acceptsSomething(handler, item))
         return {};
     const QString rule = validation(handler, item);
-    const bool isNumber = rule.startsWith(QLatin1Char('N')) && strictInteger(rule.mid(1));
-    if (isNumber && !hasRange(handler, item)) {
+    const InputRule parts = inputRule(handler, item);
+    if (parts.kind == InputRule::Number && parts.length && !hasRange(handler, item)) {
         return { error("no-range",
             QStringLiteral("without \"range\" the rule \"%1\" refuses every text; give it the "
                            "lowest and the highest number")
                 .arg(rule)) };
     }
     return { error("dead-rule",
-        QStringLiteral("refuses every text: the rule \"%1\" %2").arg(rule, whyNothingFits(rule))) };
+        QStringLiteral("refuses every text: the rule \"%1\" %2")
+            .arg(rule, whyNothingFits(rule, parts))) };
 }

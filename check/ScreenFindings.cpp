@@ -1,26 +1,19 @@
 #include "check/Findings.h"
 
+#include "menu/RepeatedScreen.h"
+
 #include <QScriptValueIterator>
 
 #include <algorithm>
 
 namespace {
 
-bool isRepeated(const LoadedMenu &menu, const QScriptValue &definition)
-{
-    const QScriptValue entries = definition.property(menu.handler.names().screens);
-    return entries.isValid() && entries.property(menu.handler.names().length).toInt32() == 0
-        && (menu.handler.isCompartmentButton(definition) || menu.handler.isMeterButton(definition));
-}
-
 // The css of every screen that the definition leads to.
 QStringList references(const LoadedMenu &menu, const QScriptValue &definition)
 {
     const PropertyNames &names = menu.handler.names();
-    if (isRepeated(menu, definition)) {
-        return { TreeViewItemHandler::repeatedScreenName(
-            definition.property(names.css).toString()) };
-    }
+    if (isRepeatedScreen(definition, names))
+        return { repeatedScreenName(definition.property(names.css).toString()) };
     QStringList targets;
     QScriptValueIterator entry(definition.property(names.screens));
     while (entry.hasNext()) {
@@ -46,7 +39,9 @@ Findings referenceFindings(const LoadedMenu &menu, const QScriptValue &definitio
     Findings findings;
     for (const QString &css : references(menu, definition)) {
         if (menu.screens.find(css) < 0) {
-            findings << error(isRepeated(menu, definition) ? "no-template" : "dangling-reference",
+            findings << error(isRepeatedScreen(definition, menu.handler.names())
+                    ? "no-template"
+                    : "dangling-reference",
                 QStringLiteral("it leads to \"%1\", which does not exist; define that screen, or "
                                "remove the reference")
                     .arg(css));
@@ -89,13 +84,13 @@ Findings bindingFindings(const TreeViewItemHandler &handler, const TreeViewItem 
     const auto isEditable = [&handler](const auto &child) {
         return handler.isVisible(*child) && handler.isEditable(*child);
     };
-    if (!handler.hasWriteBinding(item)
+    if (!handler.writeBinding(item)
         && std::any_of(children.cbegin(), children.cend(), isEditable)) {
         findings << error("no-write",
             QStringLiteral("what is edited in it is not stored; add an \"ajax-write\", or give its "
                            "items \"remote\" 2"));
     }
-    if (handler.hasReadBinding(item) && children.empty()) {
+    if (handler.readBinding(item) && children.empty()) {
         findings << warning("dead-read",
             QStringLiteral("its \"ajax-read\" is never used, as there is nothing to open; add the "
                            "items that it reads, or remove it"));

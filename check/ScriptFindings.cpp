@@ -1,21 +1,12 @@
 #include "check/Findings.h"
 
-#include <QFile>
-#include <QTextStream>
-
 namespace {
-
-QString readText(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QTextStream(&file).readAll() : QString();
-}
 
 // Empty when there is none.
 QString scriptError(LoadedMenu &menu)
 {
     const QScriptSyntaxCheckResult syntax =
-        QScriptEngine::checkSyntax(readText(menu.paths.settingsScript));
+        QScriptEngine::checkSyntax(menu.handler.scriptHelper().settingsScript());
     if (syntax.state() != QScriptSyntaxCheckResult::Valid) {
         const QString message = syntax.errorMessage();
         return QStringLiteral("line %1, column %2: %3; correct it, the console shows no menu")

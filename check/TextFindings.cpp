@@ -3,13 +3,11 @@
 #include "locale/CTranslationHandler.h"
 #include "render/ForeignText.h"
 #include "render/MenuView.h"
+#include "render/ViewState.h"
 
 #include <algorithm>
 
 namespace {
-
-constexpr int terminalColumns = 80;
-constexpr int valueColumn = terminalColumns - terminalColumns / 3;
 
 bool hasLetter(const QString &text)
 {
@@ -48,35 +46,27 @@ void checkText(Findings &findings, const QString &what, const QString &key)
     }
 }
 
-int lineLength(const TreeViewItemHandler &handler, const TreeViewItem &item, int depth)
-{
-    Frame lines;
-    int line = 0;
-    QString note;
-    MenuRenderer(handler, terminalColumns, note).renderItemLines(item, line, lines, depth);
-    return lines.value(0).size();
-}
-
 } // namespace
 
-Findings textFindings(const TreeViewItemHandler &handler, const TreeViewItem &item, int depth)
+Findings textFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
     Findings findings;
-    const bool isSeparator = handler.isInputKind(item, SeparatorInput);
+    const InputKind kind = handler.inputKind(item);
     const QString key = handler.labelKey(item);
     checkText(findings, QStringLiteral("label"), key);
-    if (key.isEmpty() && !isSeparator)
+    if (key.isEmpty() && kind != SeparatorInput)
         findings << warning("no-label", QStringLiteral("it has no label; give it an \"i18n\""));
 
-    const int surplus = lineLength(handler, item, depth) - valueColumn;
-    if (surplus > 0 && !isSeparator && !handler.isInputKind(item, ButtonInput)) {
+    const QString line = menuLines(handler, item, standardColumns).value(0);
+    const int surplus = line.size() - valueColumn(standardColumns);
+    if (surplus > 0 && kind != SeparatorInput && kind != ButtonInput) {
         findings << warning("wide-label",
             QStringLiteral("its label reaches %1 columns into the value on a terminal of %2 "
                            "columns; shorten it")
                 .arg(surplus)
-                .arg(terminalColumns));
+                .arg(standardColumns));
     }
-    if (handler.isInputKind(item, DropdownInput) || handler.isInputKind(item, SelectLabelInput)) {
+    if (kind == DropdownInput || kind == SelectLabelInput) {
         for (int i = 0, count = handler.valueCount(item); i < count; ++i)
             checkText(findings, QStringLiteral("option text"), handler.valueAt(item, i).toString());
     }

@@ -2,48 +2,10 @@
 
 #include "diagnose/ScreenLines.h"
 
-#include <array>
-
 namespace {
 
-/// Channels side by side, their numbers on one line and their values on another.
-struct ChannelRow {
-    int element; ///< where the interface's list has the channels' values
-    int firstChannel; ///< counted from 1 within these values
-    int channelCount;
-    int numberLine;
-    int valueLine;
-};
-
-struct Layout {
-    const char *label;
-    int columnsPerBox; ///< a channel takes this part of the box width
-    int firstColumn; ///< of the first channel, in channel widths
-    bool centred;
-    std::array<ChannelRow, 2> rows;
-};
-
-constexpr Layout spdLayout = { "SPD IF: ", 11, 1, false,
-    { { { 2, 1, 10, 6, 5 }, { 2, 11, 10, 10, 9 } } } };
-constexpr Layout ioLayout = { "IO IF: ", 8, 0, true,
-    { { { 2, 1, 2, 5, 6 }, { 3, 1, 8, 9, 10 } } } };
-constexpr Layout wetlegLayout = { "Wetleg IF: ", 6, 0, true,
-    { { { 2, 1, 6, 5, 6 }, { 3, 1, 2, 9, 10 } } } };
-
-const Layout &layoutOf(InterfaceKind kind)
-{
-    switch (kind) {
-    case SpdInterface:
-        return spdLayout;
-    case IoInterface:
-        return ioLayout;
-    default:
-        return wetlegLayout;
-    }
-}
-
 void drawChannels(
-    Frame &frame, const Layout &layout, const ChannelRow &row, const QVariantList &values)
+    Frame &frame, const PageLayout &layout, const ChannelRow &row, const QVariantList &values)
 {
     const int columnWidth = frame.value(0).size() / layout.columnsPerBox;
     QString numberText;
@@ -62,9 +24,8 @@ void drawChannels(
 } // namespace
 
 void drawPagedScreen(
-    Frame &frame, InterfaceKind kind, int shown, int count, const QVariantList &answer)
+    Frame &frame, const PageLayout &layout, int shown, int count, const QVariantList &answer)
 {
-    const Layout &layout = layoutOf(kind);
     placeLeft(frame, 1,
         QStringLiteral("%1%2/%3").arg(QLatin1String(layout.label)).arg(shown + 1).arg(count));
     if (shown >= answer.size())

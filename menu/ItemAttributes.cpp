@@ -1,56 +1,51 @@
 // The attribute queries: what an item's definition says about it.
 #include "menu/TreeViewItemHandler.h"
 
-#include <algorithm>
-#include <array>
+#include "menu/RepeatedScreen.h"
+#include "json/Saturated.h"
+
 #include <cmath>
-#include <limits>
 
 namespace {
 
 // A script can claim any length for its lists; nobody scrolls through more than this.
 constexpr int maximumValues = 100000;
 
-constexpr std::array<const char *, 9> inputWords = { "separator", "dropdown", "button", "label",
-    "selectlabel", "edit", "boolean", "slider", "input" };
-
-constexpr std::array<const char *, 5> typeWords = { "cmpBtnStatus", "cmpBtnSetup", "btn", "edit",
-    "status" };
-
-constexpr std::array<const char *, 7> diagnoseScreens = { "", "btnServiceDiagnoseSpdInterfaces",
-    "btnServiceDiagnoseIOInterfaces", "btnServiceDiagnoseWetlegInterfaces",
-    "btnServiceDiagnoseTagInterfaces", "btnServiceDiagnoseAsInterfaces",
-    "btnServiceDiagnoseLevelInterfaces" };
-
-// The place of the text among `words`; -1 when it is none of them.
-template <size_t size>
-int wordNumber(const QScriptValue &value, const std::array<const char *, size> &words)
+// The place of the value's text among `words`; their number when it is none of them.
+template <size_t count>
+size_t placeOf(const QScriptValue &value, const std::array<const char *, count> &words)
 {
     if (!value.isValid())
-        return -1;
+        return count;
     const QString text = value.toString();
-    const auto word = std::find_if(words.cbegin(), words.cend(),
-        [&text](const char *candidate) { return text == QLatin1String(candidate); });
-    return word == words.cend() ? -1 : int(word - words.cbegin());
+    size_t place = 0;
+    while (place < count && text != QLatin1String(words[place]))
+        ++place;
+    return place;
+}
+
+std::optional<QString> textIfPresent(const QScriptValue &value)
+{
+    return value.isValid() ? std::make_optional(value.toString()) : std::nullopt;
 }
 
 int integer(const QScriptValue &value)
 {
-    const double number = value.toInteger();
-    return int(qBound(
-        double(std::numeric_limits<int>::min()), number, double(std::numeric_limits<int>::max())));
+    return saturated<int>(value.toInteger());
 }
 
-// Numbers without a fraction stay integers on their way to the backend, however large.
-QVariant variant(const QScriptValue &value)
+// Nothing where the list has no such entry. Numbers without a fraction stay integers on their way
+// to the backend, however large.
+std::optional<QVariant> entryAt(const QScriptValue &list, int i)
 {
     constexpr double exactIntegers = 9007199254740992.0;
-    if (value.isNumber()) {
-        const double number = value.toNumber();
-        if (std::trunc(number) == number && std::abs(number) <= exactIntegers)
-            return qlonglong(number);
-    }
-    return value.toVariant();
+    const QScriptValue entry = i < 0 ? QScriptValue() : list.property(quint32(i));
+    if (!entry.isValid())
+        return std::nullopt;
+    const double number = entry.isNumber() ? entry.toNumber() : qQNaN();
+    if (std::trunc(number) == number && std::abs(number) <= exactIntegers)
+        return qlonglong(number);
+    return entry.toVariant();
 }
 
 } // namespace
@@ -70,39 +65,36 @@ QString TreeViewItemHandler::labelKey(const TreeViewItem &item) const
     return css;
 }
 
-bool TreeViewItemHandler::hasReadBinding(const TreeViewItem &item) const
+std::optional<QString> TreeViewItemHandler::readBinding(const TreeViewItem &item) const
 {
-    return item.definition.property(propertyNames.read).isValid();
+    return textIfPresent(item.definition.property(propertyNames.read));
 }
 
-QString TreeViewItemHandler::readBinding(const TreeViewItem &item) const
+std::optional<QString> TreeViewItemHandler::writeBinding(const TreeViewItem &item) const
 {
-    return item.definition.property(propertyNames.read).toString();
+    return textIfPresent(item.definition.property(propertyNames.write));
 }
 
-bool TreeViewItemHandler::hasWriteBinding(const TreeViewItem &item) const
+InputKind TreeViewItemHandler::inputKind(const TreeViewItem &item) const
 {
-    return item.definition.property(propertyNames.write).isValid();
+    return InputKind(placeOf(item.definition.property(propertyNames.inputType), inputWords));
 }
 
-QString TreeViewItemHandler::writeBinding(const TreeViewItem &item) const
+TypeKind TreeViewItemHandler::typeKind(const TreeViewItem &item) const
 {
-    return item.definition.property(propertyNames.write).toString();
+    return TypeKind(placeOf(item.definition.property(propertyNames.type), typeWords));
 }
 
-int TreeViewItemHandler::inputKind(const TreeViewItem &item) const
+InterfaceKind TreeViewItemHandler::diagnoseScreen(const TreeViewItem &item) const
 {
-    return wordNumber(item.definition.property(propertyNames.inputType), inputWords);
-}
-
-bool TreeViewItemHandler::isInputKind(const TreeViewItem &item, int kind) const
-{
-    return kind >= 0 && inputKind(item) == kind;
-}
-
-bool TreeViewItemHandler::isType(const TreeViewItem &item, int kind) const
-{
-    return kind >= 0 && wordNumber(item.definition.property(propertyNames.type), typeWords) == kind;
+    if (typeKind(item) != StatusType)
+        return NoInterface;
+    const QString css = item.definition.property(propertyNames.css).toString();
+    for (int kind = SpdInterface; wordsOf(InterfaceKind(kind)).css; ++kind) {
+        if (css == QLatin1String(wordsOf(InterfaceKind(kind)).css))
+            return InterfaceKind(kind);
+    }
+    return NoInterface;
 }
 
 bool TreeViewItemHandler::isEditable(const TreeViewItem &item) const
@@ -115,7 +107,7 @@ bool TreeViewItemHandler::isEditable(const TreeViewItem &item) const
     const QScriptValue needed = item.definition.property(propertyNames.accessLevel);
     if (needed.isValid() && needed.toNumber() > currentAccessLevel)
         return false;
-    const int kind = inputKind(item);
+    const InputKind kind = inputKind(item);
     return kind == DropdownInput || kind == EditInput || kind == BooleanInput
         || kind == SliderInput;
 }
@@ -129,7 +121,8 @@ bool TreeViewItemHandler::isVisible(const TreeViewItem &item) const
         remote.isValid() ? remote : item.referringEntry.property(propertyNames.remote);
     const bool needsRemote = remote.isValid()
         || (item.definition.property(propertyNames.type).isValid()
-            && !isCompartmentButton(item.referringEntry) && !isMeterButton(item.referringEntry));
+            && !isCompartmentButton(item.referringEntry, propertyNames)
+            && !isMeterButton(item.referringEntry, propertyNames));
     if (needsRemote && (!decisive.isValid() || decisive.toNumber() == 0))
         return false;
     return !isExcluded(item);
@@ -145,21 +138,6 @@ bool TreeViewItemHandler::isExcluded(const TreeViewItem &item) const
     const QString name = css.toString();
     return name.contains(QLatin1String("TODO")) || name == QLatin1String("btnLoadingplan")
         || name == QLatin1String("btnServiceLoadingplan");
-}
-
-bool TreeViewItemHandler::isCompartmentButton(const QScriptValue &definition) const
-{
-    return definition.property(propertyNames.type).toString().startsWith(QLatin1String("compBtn"));
-}
-
-bool TreeViewItemHandler::isMeterButton(const QScriptValue &definition) const
-{
-    return definition.property(propertyNames.type).toString().startsWith(QLatin1String("meterBtn"));
-}
-
-QString TreeViewItemHandler::repeatedScreenName(const QString &css)
-{
-    return css + QLatin1String("ModifyDo");
 }
 
 bool TreeViewItemHandler::isInteger(const TreeViewItem &item) const
@@ -190,9 +168,7 @@ int TreeViewItemHandler::valueCount(const TreeViewItem &item) const
 
 QVariant TreeViewItemHandler::valueAt(const TreeViewItem &item, int i) const
 {
-    const QScriptValue values = item.definition.property(propertyNames.values);
-    const QScriptValue entry = i < 0 ? QScriptValue() : values.property(quint32(i));
-    return entry.isValid() ? variant(entry) : QVariant(QString());
+    return entryAt(item.definition.property(propertyNames.values), i).value_or(QString());
 }
 
 int TreeViewItemHandler::widestValue(const TreeViewItem &item) const
@@ -210,9 +186,7 @@ bool TreeViewItemHandler::hasDatabaseValues(const TreeViewItem &item) const
 
 QVariant TreeViewItemHandler::databaseValueAt(const TreeViewItem &item, int i) const
 {
-    const QScriptValue values = item.definition.property(propertyNames.dbValues);
-    const QScriptValue entry = i < 0 ? QScriptValue() : values.property(quint32(i));
-    return entry.isValid() ? variant(entry) : QVariant(0);
+    return entryAt(item.definition.property(propertyNames.dbValues), i).value_or(0);
 }
 
 int TreeViewItemHandler::indexOfDatabaseValue(const TreeViewItem &item, const QVariant &value) const
@@ -220,17 +194,9 @@ int TreeViewItemHandler::indexOfDatabaseValue(const TreeViewItem &item, const QV
     const QScriptValue values = item.definition.property(propertyNames.dbValues);
     const QString text = value.toString();
     for (int i = 0, count = valueCount(item); i < count; ++i) {
-        const QScriptValue entry = values.property(quint32(i));
-        if (entry.isValid() && variant(entry).toString() == text)
+        const std::optional<QVariant> entry = entryAt(values, i);
+        if (entry && entry->toString() == text)
             return i;
     }
     return -1;
-}
-
-int TreeViewItemHandler::diagnoseScreen(const TreeViewItem &item) const
-{
-    if (!isType(item, StatusType))
-        return NoInterface;
-    const int screen = wordNumber(item.definition.property(propertyNames.css), diagnoseScreens);
-    return screen < 0 ? int(NoInterface) : screen;
 }

@@ -4,45 +4,35 @@
 #include <QScriptEngine>
 #include <QScriptString>
 
-struct PropertyNames {
+class PropertyNames {
+    QScriptEngine &engine;
+    QScriptString handle(const char *name) const
+    {
+        return engine.toStringHandle(QLatin1String(name));
+    }
+
+public:
     explicit PropertyNames(QScriptEngine &engine)
-        : accessLevel(engine.toStringHandle(QStringLiteral("accessLvl")))
-        , css(engine.toStringHandle(QStringLiteral("css")))
-        , dbValues(engine.toStringHandle(QStringLiteral("dbValues")))
-        , i18n(engine.toStringHandle(QStringLiteral("i18n")))
-        , inputType(engine.toStringHandle(QStringLiteral("inputType")))
-        , integer(engine.toStringHandle(QStringLiteral("integer")))
-        , length(engine.toStringHandle(QStringLiteral("length")))
-        , maximum(engine.toStringHandle(QStringLiteral("max")))
-        , minimum(engine.toStringHandle(QStringLiteral("min")))
-        , range(engine.toStringHandle(QStringLiteral("range")))
-        , read(engine.toStringHandle(QStringLiteral("ajax-read")))
-        , remote(engine.toStringHandle(QStringLiteral("remote")))
-        , screens(engine.toStringHandle(QStringLiteral("screens")))
-        , step(engine.toStringHandle(QStringLiteral("step")))
-        , type(engine.toStringHandle(QStringLiteral("type")))
-        , validation(engine.toStringHandle(QStringLiteral("validation")))
-        , values(engine.toStringHandle(QStringLiteral("values")))
-        , write(engine.toStringHandle(QStringLiteral("ajax-write")))
+        : engine(engine)
     {
     }
 
-    const QScriptString accessLevel;
-    const QScriptString css;
-    const QScriptString dbValues;
-    const QScriptString i18n;
-    const QScriptString inputType;
-    const QScriptString integer;
-    const QScriptString length;
-    const QScriptString maximum;
-    const QScriptString minimum;
-    const QScriptString range;
-    const QScriptString read;
-    const QScriptString remote;
-    const QScriptString screens;
-    const QScriptString step;
-    const QScriptString type;
-    const QScriptString validation;
-    const QScriptString values;
-    const QScriptString write;
+    const QScriptString accessLevel = handle("accessLvl");
+    const QScriptString css = handle("css");
+    const QScriptString dbValues = handle("dbValues");
+    const QScriptString i18n = handle("i18n");
+    const QScriptString inputType = handle("inputType");
+    const QScriptString integer = handle("integer");
+    const QScriptString length = handle("length");
+    const QScriptString maximum = handle("max");
+    const QScriptString minimum = handle("min");
+    const QScriptString range = handle("range");
+    const QScriptString read = handle("ajax-read");
+    const QScriptString remote = handle("remote");
+    const QScriptString screens = handle("screens");
+    const QScriptString step = handle("step");
+    const QScriptString type = handle("type");
+    const QScriptString validation = handle("validation");
+    const QScriptString values = handle("values");
+    const QScriptString write = handle("ajax-write");
 };

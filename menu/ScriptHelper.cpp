@@ -7,14 +7,6 @@
 
 namespace {
 
-QString readText(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return QTextStream(&file).readAll();
-}
-
 void warnOf(const QScriptValue &error)
 {
     QScriptValueIterator property(error);
@@ -31,9 +23,15 @@ ScriptHelper::ScriptHelper(const DevicePaths &paths)
 {
 }
 
+QString ScriptHelper::settingsScript() const
+{
+    QFile file(paths.settingsScript);
+    return file.open(QIODevice::ReadOnly) ? QTextStream(&file).readAll() : QString();
+}
+
 QScriptValue ScriptHelper::load()
 {
-    const QString script = readText(paths.settingsScript);
+    const QString script = settingsScript();
     // The script hangs functions on this object of the web interface.
     engine.evaluate(QStringLiteral("var datatransferLogbookHandler ={} "));
     const QScriptValue result = engine.evaluate(script, paths.settingsScript);

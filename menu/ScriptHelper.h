@@ -13,7 +13,10 @@
 /// long as the helper; every script value handed out belongs to it.
 class ScriptHelper : public QObject {
 public:
-    explicit ScriptHelper(const DevicePaths &paths = {});
+    explicit ScriptHelper(const DevicePaths &paths);
+
+    /// The text of the settings script; empty when the file cannot be read.
+    QString settingsScript() const;
 
     /// Evaluates the settings script and returns the `settings` member of its global `Settings`.
     /// A script that fails gives its error object, after warnings that tell the error's properties;

@@ -1,5 +1,7 @@
 #include "menu/TreeBuilder.h"
 
+#include "menu/RepeatedScreen.h"
+
 #include <QDebug>
 #include <QScriptValueIterator>
 
@@ -10,12 +12,10 @@ constexpr int maximumLevels = 1000;
 
 class TreeBuilder {
 public:
-    TreeBuilder(
-        const ScreenIndex &screens, const RepeatCounts &counts, const TreeViewItemHandler &handler)
+    TreeBuilder(const ScreenIndex &screens, const RepeatCounts &counts, const PropertyNames &names)
         : screens(screens)
         , counts(counts)
-        , handler(handler)
-        , names(handler.names())
+        , names(names)
         , isOpen(size_t(screens.size()), false)
     {
     }
@@ -39,20 +39,12 @@ private:
         const QScriptValue entries = item.definition.property(names.screens);
         if (!entries.isValid())
             return;
-        const int repetitions = repetitionsOf(item);
-        if (repetitions > 0 && entries.property(names.length).toInt32() == 0)
+        const int repetitions =
+            isMeterButton(item.definition, names) ? counts.meters : counts.compartments;
+        if (repetitions > 0 && isRepeatedScreen(item.definition, names))
             addRepeatedScreen(item, repetitions);
         else
             addEntries(item, entries, index);
-    }
-
-    int repetitionsOf(const TreeViewItem &item) const
-    {
-        if (counts.meters > 0 && handler.isMeterButton(item.definition))
-            return counts.meters;
-        if (counts.compartments > 0 && handler.isCompartmentButton(item.definition))
-            return counts.compartments;
-        return 0;
     }
 
     void addRepeatedScreen(TreeViewItem &item, int repetitions)
@@ -60,7 +52,7 @@ private:
         const QScriptValue css = item.definition.property(names.css);
         if (!css.isValid())
             return;
-        const int screen = screens.find(TreeViewItemHandler::repeatedScreenName(css.toString()));
+        const int screen = screens.find(repeatedScreenName(css.toString()));
         for (int index = 0; screen >= 0 && index < repetitions; ++index)
             addScreen(item, screen, item.definition, index);
     }
@@ -112,7 +104,6 @@ private:
 
     const ScreenIndex &screens;
     const RepeatCounts counts;
-    const TreeViewItemHandler &handler;
     const PropertyNames &names;
     std::vector<bool> isOpen; ///< by screen: it is being expanded, or one below it is
     int itemCount = 0;
@@ -123,7 +114,7 @@ private:
 } // namespace
 
 std::unique_ptr<TreeViewItem> buildTree(const QScriptValue &root, const ScreenIndex &screens,
-    const RepeatCounts &counts, const TreeViewItemHandler &handler)
+    const RepeatCounts &counts, const PropertyNames &names)
 {
-    return TreeBuilder(screens, counts, handler).build(root);
+    return TreeBuilder(screens, counts, names).build(root);
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "menu/ScreenIndex.h"
-#include "menu/TreeViewItemHandler.h"
+#include "menu/TreeViewItem.h"
 
 /// How often the screens of compartments and of meters are repeated.
 struct RepeatCounts {
@@ -15,4 +15,4 @@ struct RepeatCounts {
 /// one above that, is dropped with a warning, as is whatever goes beyond 200,000 items or 1,000
 /// levels.
 std::unique_ptr<TreeViewItem> buildTree(const QScriptValue &root, const ScreenIndex &screens,
-    const RepeatCounts &counts, const TreeViewItemHandler &handler);
+    const RepeatCounts &counts, const PropertyNames &names);

@@ -19,6 +19,12 @@ int repetitions(const QVariant &count, const char *what)
     return count.toInt();
 }
 
+QVariant noCount(const char *reason)
+{
+    qWarning() << reason;
+    return {};
+}
+
 } // namespace
 
 TreeViewItemHandler::TreeViewItemHandler(const DevicePaths &paths)
@@ -31,13 +37,15 @@ std::unique_ptr<TreeViewItem> TreeViewItemHandler::build()
 {
     const QScriptValue settings = script.load();
     const ScreenIndex screens(settings, propertyNames);
-    compartmentCount = repetitions(lookUpCount(screens, QStringLiteral("btnParameterTruckSetup"),
-                                       QStringLiteral("truck_setup_compartments")),
+    RepeatCounts counts;
+    counts.compartments = repetitions(lookUpCount(screens, QStringLiteral("btnParameterTruckSetup"),
+                                          QStringLiteral("truck_setup_compartments")),
         "compartments");
-    meterCount = repetitions(lookUpCount(screens, QStringLiteral("btnParameterInterfacesCanFasWm"),
-                                 QStringLiteral("interfaces_can_fas_wm_fpi")),
-        "meters");
-    return buildTree(settings.property(0), screens, { compartmentCount, meterCount }, *this);
+    counts.meters =
+        repetitions(lookUpCount(screens, QStringLiteral("btnParameterInterfacesCanFasWm"),
+                        QStringLiteral("interfaces_can_fas_wm_fpi")),
+            "meters");
+    return buildTree(settings.property(0), screens, counts, propertyNames);
 }
 
 QVariant TreeViewItemHandler::lookUpCount(
@@ -47,10 +55,8 @@ QVariant TreeViewItemHandler::lookUpCount(
     if (screen < 0)
         return {};
     const QScriptValue entries = screens.at(screen).property(propertyNames.screens);
-    if (!entries.isValid()) {
-        qWarning() << "!screens.isValid()";
-        return {};
-    }
+    if (!entries.isValid())
+        return noCount("!screens.isValid()");
     QScriptValueIterator entry(entries);
     int searchIndex = -1;
     for (int position = 0; entry.hasNext() && searchIndex < 0; ++position) {
@@ -59,20 +65,14 @@ QVariant TreeViewItemHandler::lookUpCount(
         if (key.isValid() && key.toString() == fieldKey)
             searchIndex = position;
     }
-    if (searchIndex < 0) {
-        qWarning() << "!searchIndexFound";
-        return {};
-    }
+    if (searchIndex < 0)
+        return noCount("!searchIndexFound");
     const QScriptValue readWords = screens.at(screen).property(propertyNames.read);
-    if (!readWords.isValid()) {
-        qWarning() << "!ajaxRead.isValid()";
-        return {};
-    }
+    if (!readWords.isValid())
+        return noCount("!ajaxRead.isValid()");
     const QVariantList answer = script.read({ readWords.toString() }, false);
-    if (searchIndex >= answer.size()) {
-        qWarning() << "!ajaxResult.count()";
-        return {};
-    }
+    if (searchIndex >= answer.size())
+        return noCount("!ajaxResult.count()");
     return answer.at(searchIndex);
 }
 

@@ -1,47 +1,26 @@
 // The menu tree: building it, its items' attributes, and the values behind them.
 #pragma once
 
+#include "menu/ItemKinds.h"
 #include "menu/PropertyNames.h"
 #include "menu/ScriptHelper.h"
 #include "menu/TreeViewItem.h"
 
 #include <QVector>
 
+#include <optional>
+
 class ScreenIndex;
-
-/// Words of "inputType".
-enum InputKind {
-    SeparatorInput,
-    DropdownInput,
-    ButtonInput,
-    LabelInput,
-    SelectLabelInput,
-    EditInput,
-    BooleanInput,
-    SliderInput,
-    PlainInput
-};
-
-/// Words of "type".
-enum TypeKind { CompartmentStatusType, CompartmentSetupType, ButtonType, EditType, StatusType };
-
-/// Kinds of field interfaces; a diagnose screen has the number of the interfaces it shows.
-enum InterfaceKind {
-    NoInterface,
-    SpdInterface,
-    IoInterface,
-    WetlegInterface,
-    TagInterface,
-    AsInterface,
-    LevelInterface
-};
 
 /// Owns the script with the menu definition and answers every question about the menu. The
 /// operations on values run the backend tool and block until it has answered; a tool that fails
 /// looks like an empty answer.
 class TreeViewItemHandler : public QObject {
 public:
-    explicit TreeViewItemHandler(const DevicePaths &paths = {});
+    /// The access level while the electronic seal is open.
+    static constexpr int openAccessLevel = 6;
+
+    explicit TreeViewItemHandler(const DevicePaths &paths);
 
     /// Loads the menu definition, asks the backend for the numbers of compartments and meters, and
     /// builds the tree. The tree must not outlive the handler. A definition that is missing or
@@ -63,21 +42,17 @@ public:
     /// A missing attribute reads as 0, false or an empty text. Positions in lists count from 0.
     /// @{
     QString labelKey(const TreeViewItem &item) const;
-    bool hasReadBinding(const TreeViewItem &item) const;
-    QString readBinding(const TreeViewItem &item) const;
-    bool hasWriteBinding(const TreeViewItem &item) const;
-    QString writeBinding(const TreeViewItem &item) const;
-    /// The item's InputKind; -1 when its word is none of them.
-    int inputKind(const TreeViewItem &item) const;
-    bool isInputKind(const TreeViewItem &item, int kind) const;
-    bool isType(const TreeViewItem &item, int kind) const;
+    /// The words that read the values of the item's children; nothing when it has none.
+    std::optional<QString> readBinding(const TreeViewItem &item) const;
+    /// The words that write the values of the item's children; nothing when it has none.
+    std::optional<QString> writeBinding(const TreeViewItem &item) const;
+    InputKind inputKind(const TreeViewItem &item) const;
+    TypeKind typeKind(const TreeViewItem &item) const;
+    /// The diagnose screen that the item opens, NoInterface when it opens none.
+    InterfaceKind diagnoseScreen(const TreeViewItem &item) const;
     bool isEditable(const TreeViewItem &item) const;
     bool isVisible(const TreeViewItem &item) const;
     bool isExcluded(const TreeViewItem &item) const;
-    bool isCompartmentButton(const QScriptValue &definition) const;
-    bool isMeterButton(const QScriptValue &definition) const;
-    /// The css text of the screen that is repeated below the screen with `css`.
-    static QString repeatedScreenName(const QString &css);
     bool isInteger(const TreeViewItem &item) const;
     int minimum(const TreeViewItem &item) const;
     int maximum(const TreeViewItem &item) const;
@@ -94,8 +69,6 @@ public:
     /// The first position below the number of "values" whose entry of "dbValues" has the text of
     /// `value`; -1 when none has.
     int indexOfDatabaseValue(const TreeViewItem &item, const QVariant &value) const;
-    /// The diagnose screen that the item opens, NoInterface when it opens none.
-    int diagnoseScreen(const TreeViewItem &item) const;
     /// @}
 
     /// \name Values in the backend
@@ -109,11 +82,11 @@ public:
 
     /// What the backend tells of the interfaces of `kind`; `tagNumber` counts for TAG only. Empty,
     /// without running the tool, for an unknown kind.
-    QVariantList interfaceList(int kind, int tagNumber);
+    QVariantList interfaceList(InterfaceKind kind, int tagNumber);
 
     /// Switches the interfaces of `kind` on or off. True whatever the tool answers; false, without
     /// running it, for an unknown kind.
-    bool enableInterface(int kind, bool enabled);
+    bool enableInterface(InterfaceKind kind, bool enabled);
 
     /// Opens or closes `target`, which is searched from `node` down through open items; with
     /// `force`, closes everything from `node` down. Closing closes all below, opening reads the
@@ -135,12 +108,10 @@ public:
 private:
     QVariant lookUpCount(const ScreenIndex &screens, const QString &css, const QString &fieldKey);
     bool isValueBearing(const TreeViewItem &item) const;
-    void readValues(TreeViewItem &item);
+    bool readValues(TreeViewItem &item);
     void readOpenItems(TreeViewItem &item);
 
     int currentAccessLevel = 0;
-    int compartmentCount = -1;
-    int meterCount = -1;
     ScriptHelper script;
     const PropertyNames propertyNames;
     const TreeViewItem *itemJustRead = nullptr;

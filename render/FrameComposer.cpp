@@ -26,7 +26,7 @@ Frame composeFrame(const ViewState &state, const QString &title)
     frame.insert(0, cutToWidth(headerBar(), columns));
     for (int row = 1; row <= rows - 2; ++row) {
         const int line = top + row - 1;
-        // What the box pushes out of the row comes back where a box line is short.
+        // Keep boxWidth characters more: a box line shorter than the box pulls them into the row.
         QString text = state.menuLines.value(line).left(columns + boxWidth);
         if (hasBox && row >= boxTop && row <= rows / 2 + boxHeight / 2) {
             replaceText(text, columns / 2 - boxWidth / 2, boxWidth,
@@ -38,11 +38,4 @@ Frame composeFrame(const ViewState &state, const QString &title)
     }
     frame.insert(rows - 1, cutToWidth(title, columns));
     return frame;
-}
-
-CursorPosition editPosition(const ViewState &state, int fieldLength)
-{
-    const qint64 column = qint64(state.termColumns / 2) + state.dialogValue - fieldLength / 2 + 1;
-    return { qBound(1, state.termRows / 2 + 1, state.termRows),
-        int(qBound<qint64>(1, column, state.termColumns)) };
 }

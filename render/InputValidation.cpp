@@ -1,33 +1,27 @@
 #include "render/InputValidation.h"
 
-#include "render/Saturated.h"
+#include "json/Saturated.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace {
 
-bool isDecimalRule(const QString &rule)
+bool isSignOrDigit(QChar character)
 {
-    return rule.contains(QLatin1Char('.'));
-}
-
-bool isDigit(QChar character)
-{
-    return character >= QLatin1Char('0') && character <= QLatin1Char('9');
+    return character == QLatin1Char('+') || character == QLatin1Char('-')
+        || (character >= QLatin1Char('0') && character <= QLatin1Char('9'));
 }
 
 } // namespace
 
 std::optional<qint64> strictInteger(const QString &text)
 {
-    const bool isSigned = text.startsWith(QLatin1Char('-')) || text.startsWith(QLatin1Char('+'));
-    const QString digits = text.mid(isSigned ? 1 : 0);
-    if (digits.isEmpty() || !std::all_of(digits.cbegin(), digits.cend(), isDigit))
+    bool isInteger = false;
+    const qint64 number = text.toLongLong(&isInteger);
+    // The conversion allows for blanks around the number.
+    if (!isInteger || !std::all_of(text.cbegin(), text.cend(), isSignOrDigit))
         return std::nullopt;
-    bool fits = false;
-    const qint64 number = text.toLongLong(&fits);
-    return fits ? std::make_optional(number) : std::nullopt;
+    return number;
 }
 
 bool hasValidation(const TreeViewItemHandler &handler, const TreeViewItem &item)
@@ -47,42 +41,36 @@ bool hasRange(const TreeViewItemHandler &handler, const TreeViewItem &item)
 
 qint64 rangeValue(const TreeViewItemHandler &handler, const TreeViewItem &item, int index)
 {
-    using Limits = std::numeric_limits<qint64>;
-    const double number =
-        item.definition.property(handler.names().range).property(quint32(index)).toInteger();
-    if (number >= double(Limits::max()))
-        return Limits::max();
-    return number <= double(Limits::min()) ? Limits::min() : qint64(number);
+    const QScriptValue range = item.definition.property(handler.names().range);
+    return saturated<qint64>(range.property(quint32(index)).toInteger());
+}
+
+InputRule inputRule(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    const QString text = validation(handler, item);
+    const bool isNumber = text.startsWith(QLatin1Char('N'));
+    // Reserved words ("FEAT", "DATE.", "GPS", "IPV4") and unknown ones refuse every text.
+    if (!isNumber && !text.startsWith(QLatin1Char('C')))
+        return {};
+    return { isNumber ? InputRule::Number : InputRule::Text, strictInteger(text.mid(1)) };
 }
 
 int fieldLength(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
-    const QString rule = validation(handler, item);
-    const bool isNumber = rule.startsWith(QLatin1Char('N'));
-    if (!isNumber && !rule.startsWith(QLatin1Char('C')))
+    const InputRule rule = inputRule(handler, item);
+    if (rule.kind == InputRule::Number && !hasRange(handler, item))
         return 0;
-    // A decimal rule counts its digits with the point, which is no integer.
-    if (isNumber && (isDecimalRule(rule) || !hasRange(handler, item)))
-        return 0;
-    return saturated(strictInteger(rule.mid(1)).value_or(0));
+    return saturated<int>(rule.length.value_or(0));
 }
 
 bool validateInput(
     const TreeViewItemHandler &handler, const TreeViewItem &item, const QString &text)
 {
-    if (!hasValidation(handler, item))
+    const InputRule rule = inputRule(handler, item);
+    if (!rule.length || *rule.length < text.size())
         return false;
-    const QString rule = validation(handler, item);
-    const bool isNumber = rule.startsWith(QLatin1Char('N'));
-    // Reserved words ("FEAT", "DATE.", "GPS", "IPV4") and unknown ones refuse every text.
-    if (!isNumber && !rule.startsWith(QLatin1Char('C')))
-        return false;
-    const std::optional<qint64> length = strictInteger(rule.mid(1));
-    if (!length || *length < text.size())
-        return false;
-    if (!isNumber)
+    if (rule.kind == InputRule::Text)
         return true;
-    // A decimal rule never gets here: its digit counts contain the point, so they are no integers.
     const std::optional<qint64> number = strictInteger(text);
     return number && hasRange(handler, item) && rangeValue(handler, item, 0) <= *number
         && *number <= rangeValue(handler, item, 1);

@@ -16,10 +16,21 @@ QString validation(const TreeViewItemHandler &handler, const TreeViewItem &item)
 
 bool hasRange(const TreeViewItemHandler &handler, const TreeViewItem &item);
 
-/// The lowest (`index` 0) or highest (1) number that the item takes; 0 when it tells none.
+/// The lowest (`index` 0) or highest (1) number that the item takes; 0 when it has none.
 qint64 rangeValue(const TreeViewItemHandler &handler, const TreeViewItem &item, int index);
 
-/// The number of characters that the item's input may have; 0 when its rule tells none.
+/// An item's rule, taken apart.
+struct InputRule {
+    enum Kind { Refusing, Text, Number }; ///< Refusing takes no text at all
+    Kind kind = Refusing;
+    /// The most characters; nothing unless a whole number follows the letter. Decimal rules
+    /// ("N5.2") have none, so they refuse every text, too.
+    std::optional<qint64> length;
+};
+
+InputRule inputRule(const TreeViewItemHandler &handler, const TreeViewItem &item);
+
+/// The number of characters by which the item's field is centred; 0 when its rule has none.
 int fieldLength(const TreeViewItemHandler &handler, const TreeViewItem &item);
 
 /// True when the item's rule accepts `text`; without a rule nothing is accepted.

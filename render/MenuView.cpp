@@ -1,6 +1,7 @@
 #include "render/MenuView.h"
 
 #include "locale/CTranslationHandler.h"
+#include "menu/RepeatedScreen.h"
 #include "render/ForeignText.h"
 
 namespace {
@@ -25,96 +26,117 @@ QString resolveMarks(QString text)
     return text;
 }
 
+class MenuRenderer {
+public:
+    MenuRenderer(const TreeViewItemHandler &handler, int termColumns)
+        : handler(handler)
+        , termColumns(termColumns)
+    {
+    }
+
+    void renderItemLines(const TreeViewItem &item, int depth, bool isFirstChild)
+    {
+        const bool isRoot = !item.parentItem;
+        if (!isRoot) {
+            if (!handler.isVisible(item))
+                return;
+            lines.insert(lines.cend(), lines.size(), itemLine(item, depth, isFirstChild));
+            isFirstChild = true;
+        }
+        if (!isRoot && !item.expanded)
+            return;
+        for (const auto &child : item.children) {
+            renderItemLines(*child, depth + 1, isFirstChild);
+            isFirstChild = false;
+        }
+    }
+
+    Frame lines;
+    QString note; ///< how the last list value was found
+
+private:
+    QString itemLine(const TreeViewItem &item, int depth, bool isFirstChild)
+    {
+        const int labelColumn = depth * indentation;
+        const QString text = label(item);
+        const QString value = printable(valueText(item));
+        QString line;
+        // All lines are kept, so each takes the memory that it needs, and takes it once.
+        line.reserve(qMax(labelColumn + text.size(), value.isEmpty() ? 0 : valueColumn(termColumns))
+            + value.size());
+        if (depth >= 2 && isFirstChild)
+            insertText(line, labelColumn - 2 * indentation, QStringLiteral(" +"));
+        insertText(line, qMax(labelColumn - indentation, 0), marker(item));
+        insertText(line, labelColumn, text);
+        insertText(line, valueColumn(termColumns), value);
+        return line;
+    }
+
+    QString marker(const TreeViewItem &item) const
+    {
+        if (!item.children.empty())
+            return QStringLiteral("->");
+        if (handler.isEditable(item))
+            return QStringLiteral(" *");
+        const InputKind kind = handler.inputKind(item);
+        if (kind == ButtonInput)
+            return QStringLiteral(" #");
+        if (kind == SeparatorInput)
+            return QStringLiteral("  ");
+        if (handler.diagnoseScreen(item) != NoInterface)
+            return QStringLiteral(" $");
+        return QStringLiteral(" -");
+    }
+
+    QString label(const TreeViewItem &item) const
+    {
+        QString text = printable(translate(handler.labelKey(item)));
+        if (isCompartmentButton(item.referringEntry, handler.names())
+            || isMeterButton(item.referringEntry, handler.names()))
+            text += QLatin1Char(' ') + QString::number(item.position + 1);
+        return text;
+    }
+
+    QString valueText(const TreeViewItem &item)
+    {
+        QString text = item.value.toString();
+        if (text.isEmpty())
+            return text;
+        const InputKind kind = handler.inputKind(item);
+        const bool isList = kind == DropdownInput || kind == SelectLabelInput;
+        return isList && !handler.isInteger(item) ? listText(item) : resolveMarks(text);
+    }
+
+    QString listText(const TreeViewItem &item)
+    {
+        int index = 0;
+        if (handler.hasDatabaseValues(item)) {
+            index = handler.indexOfDatabaseValue(item, item.value);
+            note = QStringLiteral("hasDBValues: ") + QString::number(index);
+        } else {
+            index = item.value.toInt();
+            note = QStringLiteral("!!hasDBValues");
+        }
+        return translate(handler.valueAt(item, index).toString());
+    }
+
+    const TreeViewItemHandler &handler;
+    const int termColumns;
+};
+
 } // namespace
 
-MenuRenderer::MenuRenderer(const TreeViewItemHandler &handler, int termColumns, QString &statusText)
-    : handler(handler)
-    , termColumns(termColumns)
-    , statusText(statusText)
+Frame menuLines(
+    const TreeViewItemHandler &handler, const TreeViewItem &item, int termColumns, QString *note)
 {
-}
-
-void MenuRenderer::renderItemLines(
-    const TreeViewItem &item, int &line, Frame &target, int depth, bool isFirstChild)
-{
-    const bool isRoot = !item.parentItem;
-    if (!isRoot) {
-        if (!handler.isVisible(item))
-            return;
-        target.insert(target.cend(), line++, itemLine(item, depth, isFirstChild));
-        isFirstChild = true;
-    }
-    if (!isRoot && !item.expanded)
-        return;
-    for (const auto &child : item.children) {
-        renderItemLines(*child, line, target, depth + 1, isFirstChild);
-        isFirstChild = false;
-    }
-}
-
-QString MenuRenderer::itemLine(const TreeViewItem &item, int depth, bool isFirstChild)
-{
-    const int labelColumn = depth * indentation;
-    const int valueColumn = termColumns - termColumns / 3;
-    const QString text = label(item);
-    const QString value = printable(valueText(item));
-    QString line;
-    // All lines are kept, so each takes the memory that it needs, and takes it once.
-    line.reserve(qMax(labelColumn + text.size(), value.isEmpty() ? 0 : valueColumn) + value.size());
-    if (depth >= 2 && isFirstChild)
-        insertText(line, labelColumn - 2 * indentation, QStringLiteral(" +"));
-    insertText(line, qMax(labelColumn - indentation, 0), marker(item));
-    insertText(line, labelColumn, text);
-    insertText(line, valueColumn, value);
-    return line;
-}
-
-QString MenuRenderer::marker(const TreeViewItem &item) const
-{
-    if (!item.children.empty())
-        return QStringLiteral("->");
-    if (handler.isEditable(item))
-        return QStringLiteral(" *");
-    const int kind = handler.inputKind(item);
-    if (kind == ButtonInput)
-        return QStringLiteral(" #");
-    if (kind == SeparatorInput)
-        return QStringLiteral("  ");
-    if (handler.diagnoseScreen(item) != NoInterface)
-        return QStringLiteral(" $");
-    return QStringLiteral(" -");
-}
-
-QString MenuRenderer::label(const TreeViewItem &item) const
-{
-    QString text = printable(translate(handler.labelKey(item)));
-    if (handler.isCompartmentButton(item.referringEntry)
-        || handler.isMeterButton(item.referringEntry))
-        text += QLatin1Char(' ') + QString::number(item.position + 1);
-    return text;
-}
-
-QString MenuRenderer::valueText(const TreeViewItem &item)
-{
-    QString text = item.value.toString();
-    if (text.isEmpty())
-        return text;
-    const int kind = handler.inputKind(item);
-    const bool isList = kind == DropdownInput || kind == SelectLabelInput;
-    return isList && !handler.isInteger(item) ? listText(item) : resolveMarks(text);
-}
-
-QString MenuRenderer::listText(const TreeViewItem &item)
-{
-    int index = 0;
-    if (handler.hasDatabaseValues(item)) {
-        index = handler.indexOfDatabaseValue(item, item.value);
-        statusText = QStringLiteral("hasDBValues: ") + QString::number(index);
-    } else {
-        index = item.value.toInt();
-        statusText = QStringLiteral("!!hasDBValues");
-    }
-    return translate(handler.valueAt(item, index).toString());
+    MenuRenderer renderer(handler, termColumns);
+    int depth = 0;
+    for (const TreeViewItem *above = item.parentItem; above; above = above->parentItem)
+        ++depth;
+    renderer.renderItemLines(item, depth, false);
+    if (note)
+        *note = renderer.note;
+    return renderer.lines;
 }
 
 int firstShownLine(int selectedIndex, int termRows)

@@ -15,15 +15,18 @@ enum ViewId {
     DiagnoseView ///< a live screen of field interfaces
 };
 
+/// The size of a terminal that reports none.
+constexpr int standardColumns = 80;
+constexpr int standardRows = 24;
+
 struct ViewState {
-    int requestedView = MenuView; ///< taken over by the next refresh; NoView for none
-    int currentView = NoView;
+    ViewId requestedView = MenuView; ///< taken over by the next refresh; NoView for none
+    ViewId currentView = NoView;
 
-    int termColumns = 80;
-    int termRows = 24;
+    int termColumns = standardColumns;
+    int termRows = standardRows;
 
-    Frame menuLines; ///< one line per shown item
-    bool hasMenuLines = false; ///< menuLines are up to date, though there may be none
+    Frame menuLines; ///< one line per shown item; emptied to have values and lines made anew
     Frame overlayLines; ///< the box over the menu; emptied to have it made anew
     QVector<TreeViewItem *> visibleItems; ///< by line number, from 0, as in menuLines
     int selectedIndex = 0; ///< the selected line of the menu
@@ -41,11 +44,11 @@ struct ViewState {
     QString statusText = QStringLiteral("-"); ///< a note for debuggers; shown nowhere
     QString dbcVersion; ///< the version of the backend tool
 
-    /// Empties menuLines, to have values and lines made anew at the next drawing.
-    void forgetMenuLines()
+    /// Closes whatever dialog was open: the next one takes its values and bounds from its item.
+    void resetDialog()
     {
-        menuLines.clear();
-        hasMenuLines = false;
+        listIndex = dialogValue = -1;
+        listMin = optionCount = rangeMin = rangeLimit = 0;
     }
 
     /// The number of lines of the menu.

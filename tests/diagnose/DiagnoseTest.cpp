@@ -1,6 +1,7 @@
 // The diagnose screens as the terminal shows them, cell by cell.
 #include "diagnose/DiagnoseScreen.h"
 #include "render/FrameComposer.h"
+#include "render/Screen.h"
 #include "terminal/TerminalEmulator.h"
 #include "tests/support/FakeDevice.h"
 

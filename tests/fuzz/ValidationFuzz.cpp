@@ -9,7 +9,7 @@ namespace {
 struct Editor {
     int argc = 0;
     QCoreApplication application { argc, nullptr };
-    TreeViewItemHandler handler;
+    TreeViewItemHandler handler { DevicePaths() };
 };
 
 } // namespace

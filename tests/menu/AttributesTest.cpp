@@ -54,10 +54,8 @@ private slots:
             menu.updateAccessLevel();
             add(menu.isEditable(item), " e", 6);
             add(menu.diagnoseScreen(item) != 0, " d", menu.diagnoseScreen(item));
-            for (int kind = -1; kind < 10; ++kind) {
-                add(menu.isInputKind(item, kind), " i", kind);
-                add(menu.isType(item, kind), " t", kind);
-            }
+            add(menu.inputKind(item) != NoInput, " i", menu.inputKind(item));
+            add(menu.typeKind(item) != NoType, " t", menu.typeKind(item));
             for (const QVariant &value : QVariantList { menu.minimum(item), menu.maximum(item),
                      menu.valueCount(item), menu.widestValue(item),
                      menu.indexOfDatabaseValue(item, 10.0), menu.indexOfDatabaseValue(item, 7),

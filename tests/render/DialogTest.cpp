@@ -1,11 +1,7 @@
 // The value dialogs: what they show, how the keys move them, what they give the item.
 #include "locale/CTranslationHandler.h"
-#include "render/EditDialog.h"
 #include "render/FrameComposer.h"
-#include "render/ListDialog.h"
-#include "render/Selection.h"
-#include "render/SliderDialog.h"
-#include "render/ValueCommit.h"
+#include "render/ValueDialog.h"
 #include "tests/support/FakeDevice.h"
 
 #include <QtTest>
@@ -26,9 +22,9 @@ static const char dialogs[] = R"(
 24 slider min:-10,max:9,step:6,is:7 = 6 12 Set new Value >|-1| >||---------| >|| i-1 i5 i-10;
 24 slider max:-1,step:1,is:3 = 6 12 Set new Value >|3| >||---------| >|| i3 i0 i0;
 24 slider min:10,max:0,step:1,is:5 = 6 12 Set new Value >|5| >|-----|----| >|| i5 i10 i10;
-80 edit validation:'C38',is:'abc' = 20 40 Enter new Value 38>||>|<2mabc>|>|| Qabc40 Qabc40 Qabc37;
-80 edit validation:'C3',is:'abcd' = 20 40 Enter new Value 3 >|| >|<1mabc>d| >|| 41 40 37;
-4 edit validation:'N3',is:'4\t2' = 0 4 Enter new Value 3 >|| >|<1m42> >|| 2 2 1;
+80 edit validation:'C38',is:'abc' = 20 40 Enter new Value 38>||>|<2mabc>|>|| Qabc25 Qabc25 Qabc22;
+80 edit validation:'C3',is:'abcd' = 20 40 Enter new Value 3 >|| >|<1mabc>d| >|| 44 43 40;
+4 edit validation:'N3',is:'4\t2' = 0 4 Enter new Value 3 >|| >|<1m42> >|| 4 4 3;
 80 button is:1 = 20 40 Select next Step >|| >|<5mstart Dravikon Menu>| >|continue to local shell|)";
 
 class DialogTest : public QObject {
@@ -40,7 +36,7 @@ private slots:
         FakeDevice device;
         device.setTranslations(R"({"b":"Two"})");
         CTranslationHandler::setInstanceRoot(device.paths().webRoot);
-        TreeViewItemHandler handler;
+        TreeViewItemHandler handler { DevicePaths() };
         QScriptEngine &engine = handler.scriptHelper().scriptEngine();
         for (const QByteArray &row : QByteArray(dialogs).simplified().split(';')) {
             const QByteArrayList words = row.trimmed().split(' ');
@@ -50,15 +46,13 @@ private slots:
             ViewState state;
             state.currentView = EditView;
             state.termColumns = words[0].toInt();
-            state.listIndex = state.dialogValue = -1;
+            state.resetDialog();
             state.visibleItems.push_back(&item);
             state.menuLines.insert(0, QStringLiteral("x"));
             for (int drawing = 0; drawing < 2; ++drawing)
-                state.overlayLines = words[1] == "dropdown" ? listSelector(state, handler, item)
-                    : words[1] == "boolean"                 ? booleanSelector(state, item)
-                    : words[1] == "slider"                  ? sliderDialog(state, handler, item)
-                    : words[1] == "edit"                    ? editDialog(state, handler, item)
-                                                            : startMenu(state);
+                state.overlayLines = handler.inputKind(item) == ButtonInput
+                    ? startMenu(state)
+                    : valueDialog(state, handler, item);
             Frame frame = composeFrame(state, QString());
             QCOMPARE(frame[1], Escape::highlight + QStringLiteral("x\x1b[K\x1b[0m"));
             QByteArray seen = QByteArray::number(frame[15].indexOf(QChar(27)))
@@ -71,7 +65,7 @@ private slots:
                 if (commitValue(state, handler, 0))
                     seen += QByteArray(item.value.typeName(), 1) + item.value.toByteArray();
                 if (words[1] == "edit")
-                    seen += QByteArray::number(editPosition(state, 8).column);
+                    seen += QByteArray::number(editPosition(state, handler).column);
                 moveSelection(state, handler, false, steps);
                 moveSelection(state, handler, true, steps);
             }

@@ -5,7 +5,7 @@
 
 #include <QtTest>
 
-static const char lines[] = R"(->  Parameters| +   *  edit            2|    ->  group|
+static const char shown[] = R"(->  Parameters| +   *  edit            2|    ->  group|
      -  fixed           0|     *  long label of wotruerds|     #  press|        --|
      -  gps             48.111.5|     -  date            Yes|     -  mark            Yes|
      -  no|     -  raw             I18n_ 2J|     -  db|     -  list            Yes|
@@ -42,12 +42,10 @@ screens:[{i18n:'level'}]},{css:'tanks',type:'compBtn',screens:{}},{css:'btnParam
         for (const auto &child : root->children)
             handler.toggleItem(*root, child.get(), false);
         handler.toggleItem(*root, root->children[2]->children[0].get(), false);
-        Frame frame;
-        int count = 0;
         QString status;
-        MenuRenderer(handler, 36, status).renderItemLines(*root, count, frame);
+        const Frame frame = menuLines(handler, *root, 36, &status);
         const QString seen = QStringList(frame.values()).join(QLatin1Char('|'));
-        QCOMPARE(seen.toLatin1(), QByteArray(lines).replace('\n', ""));
+        QCOMPARE(seen.toLatin1(), QByteArray(shown).replace('\n', ""));
         QCOMPARE(status, QStringLiteral("hasDBValues: 1"));
         const std::array<int, 3> table[] { { 24, 0, 0 }, { 24, 21, 0 }, { 24, 22, 21 },
             { 24, 42, 21 }, { 24, 43, 42 }, { 5, 3, 2 }, { 4, 2, 1 }, { 4, 9, 8 }, { 3, 7, 7 },

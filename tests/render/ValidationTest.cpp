@@ -18,7 +18,7 @@ class ValidationTest : public QObject {
 private slots:
     void judges()
     {
-        TreeViewItemHandler handler;
+        TreeViewItemHandler handler { DevicePaths() };
         QScriptEngine &engine = handler.scriptHelper().scriptEngine();
         const QString js = QStringLiteral("d = {}; if ('%1' != '-') d.validation = '%1';"
                                           "if ('%2' != '-') d.range = eval('[%2]'); d");

@@ -1,0 +1,23 @@
+#include "menu/RepeatedScreen.h"
+
+bool isCompartmentButton(const QScriptValue &definition, const PropertyNames &names)
+{
+    return definition.property(names.type).toString().startsWith(QLatin1String("compBtn"));
+}
+
+bool isMeterButton(const QScriptValue &definition, const PropertyNames &names)
+{
+    return definition.property(names.type).toString().startsWith(QLatin1String("meterBtn"));
+}
+
+bool isRepeatedScreen(const QScriptValue &definition, const PropertyNames &names)
+{
+    const QScriptValue entries = definition.property(names.screens);
+    return entries.isValid() && entries.property(names.length).toInt32() == 0
+        && (isCompartmentButton(definition, names) || isMeterButton(definition, names));
+}
+
+QString repeatedScreenName(const QString &css)
+{
+    return css + QLatin1String("ModifyDo");
+}

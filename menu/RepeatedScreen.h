@@ -1,0 +1,16 @@
+// Which screens of a menu definition are repeated for each compartment or meter.
+#pragma once
+
+#include "menu/PropertyNames.h"
+
+#include <QScriptValue>
+
+bool isCompartmentButton(const QScriptValue &definition, const PropertyNames &names);
+
+bool isMeterButton(const QScriptValue &definition, const PropertyNames &names);
+
+/// True for a compartment or meter button without entries of its own.
+bool isRepeatedScreen(const QScriptValue &definition, const PropertyNames &names);
+
+/// The css text of the screen that is repeated below the screen with `css`.
+QString repeatedScreenName(const QString &css);

@@ -1,0 +1,276 @@
+#include "render/ValueDialog.h"
+
+#include "locale/CTranslationHandler.h"
+#include "render/ForeignText.h"
+#include "render/InputValidation.h"
+#include "json/Saturated.h"
+
+#include <functional>
+
+namespace {
+
+// A box around lines of `contentLength` characters: half the terminal wide, more where needed.
+int widthFor(const ViewState &state, qint64 contentLength)
+{
+    const qint64 columns = state.termColumns;
+    const qint64 needed = contentLength + 2;
+    if (columns / 2 >= needed)
+        return int(columns / 2);
+    return int(columns >= 2 * needed ? 2 * needed : qMin(needed, columns));
+}
+
+// A box whose content fits anywhere.
+int plainWidth(const ViewState &state)
+{
+    return qMax(state.termColumns / 2, qMin(state.termColumns, 2));
+}
+
+Frame dialogBox(const ViewState &state, int width, const QString &title)
+{
+    constexpr int dialogLines = 7;
+    Frame box = buildBox(dialogLines, width, state.termRows);
+    placeCentred(box, width, 0, title, 0);
+    return box;
+}
+
+// A list that rolls under a fixed highlight, opened at its entry `chosen`.
+Frame rollingList(ViewState &state, int width, const QString &title, int chosen, int entryCount,
+    const std::function<QString(int)> &entryAt)
+{
+    if (state.listIndex < 0) {
+        state.listIndex = chosen;
+        state.listMin = 0;
+    }
+    if (state.optionCount == 0)
+        state.optionCount = entryCount;
+
+    constexpr int middleLine = 3;
+    Frame box = dialogBox(state, width, title);
+    for (int line = middleLine - 1; line <= middleLine + 1; ++line) {
+        const QString entry = entryAt(saturated<int>(qint64(state.listIndex) + line - middleLine));
+        placeCentred(box, width, line, printable(entry), 0);
+        if (line == middleLine && !entry.isEmpty())
+            highlightLine(box, line);
+    }
+    return box;
+}
+
+Frame listSelector(ViewState &state, const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    const int current = handler.hasDatabaseValues(item)
+        ? handler.indexOfDatabaseValue(item, item.value)
+        : item.value.toInt();
+    return rollingList(state, widthFor(state, handler.widestValue(item)),
+        QStringLiteral("Select new Value"), current, handler.valueCount(item),
+        [&handler, &item](int i) {
+            const QString key = handler.valueAt(item, i).toString();
+            return key.isEmpty() ? key : translate(key);
+        });
+}
+
+std::optional<QVariant> listedValue(
+    const ViewState &state, const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    if (handler.hasDatabaseValues(item))
+        return handler.databaseValueAt(item, state.listIndex);
+    return state.listIndex;
+}
+
+Frame booleanSelector(ViewState &state, const TreeViewItemHandler &, const TreeViewItem &item)
+{
+    static const QStringList entries { QStringLiteral("false"), QStringLiteral("true") };
+    return rollingList(state, plainWidth(state), QStringLiteral("Select new Value"),
+        item.value.toBool() ? 1 : 0, entries.size(), [](int i) { return entries.value(i); });
+}
+
+std::optional<QVariant> booleanValue(
+    const ViewState &state, const TreeViewItemHandler &, const TreeViewItem &)
+{
+    return state.listIndex != 0;
+}
+
+// The place of the mark on a bar of `barLength` characters; `barLength` is right after the bar.
+int sliderMark(const ViewState &state, int barLength)
+{
+    const qint64 span = qint64(state.rangeLimit) - state.rangeMin;
+    if (state.dialogValue <= 0 || span == 0)
+        return 0;
+    const qint64 distance = qint64(state.dialogValue) - state.rangeMin;
+    return saturated<int>(qMax<qint64>(barLength * distance / span, 0));
+}
+
+// The mark can go one beyond the maximum, which is right after the bar.
+Frame sliderDialog(ViewState &state, const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    state.rangeMin = handler.minimum(item);
+    state.step = handler.step(item);
+    state.rangeLimit = saturated<int>(qint64(handler.maximum(item)) + 1);
+    if (state.dialogValue < state.rangeMin)
+        state.dialogValue = item.value.toInt();
+
+    const int width = plainWidth(state);
+    QString bar(qMax(width - 2, 0), QLatin1Char('-'));
+    const int mark = sliderMark(state, bar.size());
+    if (mark <= bar.size())
+        replaceText(bar, mark, 1, QStringLiteral("|"));
+
+    Frame box = dialogBox(state, width, QStringLiteral("Set new Value"));
+    placeCentred(box, width, 2, QString::number(state.dialogValue), 0);
+    placeCentred(box, width, 3, bar, 0);
+    return box;
+}
+
+std::optional<QVariant> sliderValue(
+    const ViewState &state, const TreeViewItemHandler &, const TreeViewItem &)
+{
+    return state.dialogValue;
+}
+
+// What can be typed is not `fieldLength`, by which the cursor is placed: it asks for no range.
+Frame editDialog(ViewState &state, const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    state.rangeMin = 0;
+    if (state.dialogValue < 0) {
+        state.editBuffer = item.value.toString();
+        state.dialogValue = state.editBuffer.size();
+    }
+    if (state.rangeLimit == 0)
+        state.rangeLimit = saturated<int>(inputRule(handler, item).length.value_or(0));
+
+    const int width = widthFor(state, state.rangeLimit);
+    Frame box = dialogBox(
+        state, width, QStringLiteral("Enter new Value ") + QString::number(state.rangeLimit));
+    placeCentred(box, width, 3, printable(state.editBuffer), state.rangeLimit);
+    colourSegment(box, width, 3, state.rangeLimit, !validateInput(handler, item, state.editBuffer));
+    return box;
+}
+
+std::optional<QVariant> typedText(
+    const ViewState &state, const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    if (!validateInput(handler, item, state.editBuffer))
+        return std::nullopt;
+    return state.editBuffer;
+}
+
+// What the dialog of an input kind is made of; nothing where the kind has none.
+struct Dialog {
+    Frame (*draw)(ViewState &, const TreeViewItemHandler &, const TreeViewItem &) = nullptr;
+    /// The value that is chosen in it; nothing when the item refuses that.
+    std::optional<QVariant> (*value)(
+        const ViewState &, const TreeViewItemHandler &, const TreeViewItem &) = nullptr;
+};
+
+Dialog dialogOf(InputKind kind)
+{
+    switch (kind) {
+    case DropdownInput:
+        return { listSelector, listedValue };
+    case BooleanInput:
+        return { booleanSelector, booleanValue };
+    case SliderInput:
+        return { sliderDialog, sliderValue };
+    case EditInput:
+        return { editDialog, typedText };
+    case SeparatorInput:
+    case ButtonInput:
+    case LabelInput:
+    case SelectLabelInput:
+    case PlainInput:
+    case NoInput:
+        break;
+    }
+    return {};
+}
+
+int within(int lowest, int limit, qint64 index)
+{
+    if (index < lowest)
+        return lowest;
+    return index >= limit ? limit - 1 : int(index);
+}
+
+int horizontalIndex(const ViewState &state, const TreeViewItemHandler &handler, qint64 index)
+{
+    if (index < state.rangeMin)
+        return state.rangeMin;
+    const TreeViewItem *const item = state.selectedItem();
+    const int textLength = state.editBuffer.size();
+    if (item && handler.inputKind(*item) == EditInput && index >= textLength)
+        return index > state.rangeLimit ? state.rangeLimit : textLength;
+    return saturated<int>(qMin<qint64>(index, state.rangeLimit));
+}
+
+} // namespace
+
+Frame startMenu(ViewState &state)
+{
+    static const QStringList entries { QStringLiteral("start Dravikon Menu"),
+        QStringLiteral("continue to local shell") };
+    return rollingList(state, widthFor(state, entries.first().size()),
+        QStringLiteral("Select next Step"), 0, entries.size(),
+        [](int i) { return entries.value(i); });
+}
+
+Frame valueDialog(ViewState &state, const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    const Dialog dialog = dialogOf(handler.inputKind(item));
+    return dialog.draw ? dialog.draw(state, handler, item) : Frame();
+}
+
+bool commitValue(const ViewState &state, const TreeViewItemHandler &handler, int index)
+{
+    TreeViewItem *const item = state.visibleItems.value(index);
+    const Dialog dialog = item ? dialogOf(handler.inputKind(*item)) : Dialog();
+    const std::optional<QVariant> value =
+        dialog.value ? dialog.value(state, handler, *item) : std::nullopt;
+    if (value)
+        item->value = *value;
+    return value.has_value();
+}
+
+void moveSelection(ViewState &state, const TreeViewItemHandler &handler, bool horizontal, int delta)
+{
+    const qint64 distance = qint64(delta) * state.step;
+    switch (state.currentView) {
+    case MenuView:
+        if (!horizontal)
+            state.selectedIndex = within(0, state.visibleCount(), state.selectedIndex + distance);
+        break;
+    case StartView:
+    case EditView:
+    case DiagnoseView:
+        if (horizontal)
+            state.dialogValue = horizontalIndex(state, handler, state.dialogValue + distance);
+        else
+            state.listIndex = within(state.listMin, state.optionCount, state.listIndex + distance);
+        break;
+    case NoView:
+        break;
+    }
+}
+
+void typeCharacter(ViewState &state, const TreeViewItemHandler &handler, int key)
+{
+    const bool isByte = key >= 0 && key <= 0xff;
+    if (!isByte || state.editBuffer.size() >= state.rangeLimit)
+        return;
+    state.editBuffer.insert(qBound(0, state.dialogValue, state.editBuffer.size()), QChar(key));
+    moveSelection(state, handler, true, +1);
+}
+
+void removeCharacter(ViewState &state, const TreeViewItemHandler &handler)
+{
+    moveSelection(state, handler, true, -1);
+    if (state.dialogValue >= 0)
+        state.editBuffer.remove(state.dialogValue, 1);
+}
+
+CursorPosition editPosition(const ViewState &state, const TreeViewItemHandler &handler)
+{
+    const TreeViewItem *const item = state.selectedItem();
+    const int length = item ? fieldLength(handler, *item) : 0;
+    const qint64 column = qint64(state.termColumns / 2) + state.dialogValue - length / 2 + 1;
+    return { qBound(1, state.termRows / 2 + 1, state.termRows),
+        int(qBound<qint64>(1, column, state.termColumns)) };
+}
