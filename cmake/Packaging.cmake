@@ -18,9 +18,15 @@ set(maintainer "Dravikon maintainers <maintainers@dravikon.invalid>")
 set(packaging ${PROJECT_SOURCE_DIR}/packaging)
 set(packaged ${PROJECT_BINARY_DIR}/packaged)
 
-# Manual pages and the changelog, compressed as Debian requires.
+# Manual pages and the changelog, compressed as Debian requires. The pages name the version, so that
+# man shows it for the source page as well.
 foreach(page dravikon dravikon-menu-check)
-    configure_file(${packaging}/${page}.1 ${packaged}/${page}.1 @ONLY)
+    configure_file(${packaging}/${page}.1 ${packaged}/${page}.1 COPYONLY)
+    file(READ ${packaging}/${page}.1 text)
+    string(FIND "${text}" "\n.Os Dravikon ${PROJECT_VERSION}\n" place)
+    if(place EQUAL -1)
+        message(FATAL_ERROR "packaging/${page}.1 does not have the version ${PROJECT_VERSION}")
+    endif()
     list(APPEND pages ${packaged}/${page}.1.gz)
 endforeach()
 configure_file(${packaging}/changelog ${packaged}/changelog @ONLY)
