@@ -26,10 +26,10 @@ QByteArray readProc(pid_t process, const char *name)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-bool isRunning(pid_t process)
+bool isSleeping(pid_t process)
 {
     const QByteArray text = readProc(process, "stat");
-    return text.contains(") R ") || text.contains(") D ");
+    return text.contains(") S ") || text.contains(") T ");
 }
 
 bool hasChildren(pid_t process)
@@ -103,13 +103,14 @@ QByteArray PtyProcess::read(int timeoutMs)
     return { buffer, int(qMax<ssize_t>(0, ::read(master, buffer, sizeof buffer))) };
 }
 
-bool PtyProcess::isWaiting() const
+bool PtyProcess::isWaiting()
 {
     // Output last: a process that sleeps because the terminal is full has left some.
-    return !isReadable(slave, 0) && !isRunning(child) && !isReadable(master, 0);
+    const bool isDone = !isReadable(slave, 0) && isSleeping(child);
+    return (isDone || status().state != ExitStatus::Running) && !isReadable(master, 0);
 }
 
-bool PtyProcess::isAtRest() const
+bool PtyProcess::isAtRest()
 {
     // Unchanged scheduling statistics: it did not run between the questions.
     const QByteArray before = readProc(child, "schedstat");

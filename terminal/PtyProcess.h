@@ -35,11 +35,12 @@ public:
     bool send(const QByteArray &bytes);
     /// The next output of the process, up to 4 KiB; empty when none comes in time.
     QByteArray read(int timeoutMs);
-    /// True when the process has read all input, sleeps, and all its output is taken.
-    bool isWaiting() const;
+    /// True when the process has read all input, sleeps, and all its output is taken; also when it
+    /// has ended.
+    bool isWaiting();
     /// True when the process waits and has no child process, so that nothing happens before the
-    /// next input, signal or timer.
-    bool isAtRest() const;
+    /// next input, signal or timer; also when it has ended.
+    bool isAtRest();
 
     /// Changes the size of the terminal, which sends SIGWINCH.
     void setSize(int rows, int columns);

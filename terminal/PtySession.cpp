@@ -57,6 +57,7 @@ void PtySession::mark()
 {
     while (takeOutput(0)) { }
     output.clear();
+    emulator.forgetWrittenRows();
 }
 
 bool PtySession::takeOutput(int timeoutMs)

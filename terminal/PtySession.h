@@ -28,7 +28,7 @@ public:
     /// Waits for the end of the process and takes its last output.
     ExitStatus waitForExit();
 
-    /// Takes the output written up to now and begins to record anew.
+    /// Takes the output written up to now and begins to record bytes and written rows anew.
     void mark();
     /// Output taken since the last mark, as it was written.
     QByteArray bytesSinceMark() const { return output; }

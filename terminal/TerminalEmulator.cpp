@@ -20,6 +20,11 @@ TerminalEmulator::TerminalEmulator(int rows, int columns)
             static_cast<TerminalEmulator *>(self)->cursorShown = value->boolean;
         return 1;
     };
+    callbacks.damage = [](VTermRect area, void *self) {
+        for (int row = area.start_row; row < area.end_row; ++row)
+            static_cast<TerminalEmulator *>(self)->written.insert(row);
+        return 1;
+    };
     const auto keepAnswer = [](const char *bytes, size_t size, void *self) {
         static_cast<TerminalEmulator *>(self)->answers.append(bytes, int(size));
     };
@@ -27,6 +32,7 @@ TerminalEmulator::TerminalEmulator(int rows, int columns)
     vterm_output_set_callback(vterm.get(), keepAnswer, this);
     vterm_screen_set_callbacks(cells, &callbacks, this);
     vterm_screen_reset(cells, true);
+    written.clear();
 }
 
 void TerminalEmulator::feed(const QByteArray &bytes)
@@ -44,7 +50,9 @@ void TerminalEmulator::feed(const QByteArray &bytes)
 
 void TerminalEmulator::resize(int rows, int columns)
 {
+    const std::set<int> before = written;
     vterm_set_size(vterm.get(), rows, columns);
+    written = before;
     size = { columns, rows };
 }
 

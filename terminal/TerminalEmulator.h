@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <memory>
+#include <set>
 
 struct VTerm;
 struct VTermScreen;
@@ -18,7 +19,7 @@ public:
 
     /// Takes output in Latin-1, in pieces of any size.
     void feed(const QByteArray &bytes);
-    /// Changes the size and keeps what still fits.
+    /// Changes the size and keeps what still fits; the program has written none of that.
     void resize(int rows, int columns);
 
     /// Text of a 0-based row without its trailing blanks; empty outside the screen.
@@ -28,6 +29,11 @@ public:
     QString backgrounds(int row) const;
     /// Texts of all rows from top to bottom.
     QStringList screen() const;
+
+    /// 0-based rows that the program has written, cleared or scrolled since the last
+    /// `forgetWrittenRows`, also those that look the same as before.
+    const std::set<int> &writtenRows() const { return written; }
+    void forgetWrittenRows() { written.clear(); }
 
     /// 0-based position of the cursor: x is the column, y the row.
     QPoint cursor() const;
@@ -39,6 +45,7 @@ private:
     std::unique_ptr<VTerm, void (*)(VTerm *)> vterm;
     VTermScreen *cells;
     QSize size;
+    std::set<int> written;
     bool cursorShown = true;
     QByteArray answers;
 };

@@ -1,0 +1,47 @@
+#include "terminal/KeyText.h"
+
+#include "terminal/Keys.h"
+
+#include <QHash>
+#include <QRegularExpression>
+
+static QByteArray keyNamed(const QString &name)
+{
+    static const QHash<QString, QByteArray> keys { { QStringLiteral("Up"), Key::up },
+        { QStringLiteral("Down"), Key::down }, { QStringLiteral("Left"), Key::left },
+        { QStringLiteral("Right"), Key::right }, { QStringLiteral("PageUp"), Key::pageUp },
+        { QStringLiteral("PageDown"), Key::pageDown }, { QStringLiteral("Return"), Key::enter },
+        { QStringLiteral("Escape"), Key::escape }, { QStringLiteral("Backspace"), Key::backspace },
+        { QStringLiteral("Redraw"), Key::redraw }, { QStringLiteral("Ctrl-C"), Key::interrupt } };
+    return keys.value(name);
+}
+
+static QByteArrayList charactersOf(QString quoted)
+{
+    static const QRegularExpression code(QStringLiteral("\\\\x([0-9a-f]{2})"));
+    for (auto found = code.match(quoted); found.hasMatch(); found = code.match(quoted))
+        quoted.replace(found.capturedStart(), 4, QChar(found.captured(1).toUShort(nullptr, 16)));
+    QByteArrayList keys;
+    for (const char byte : quoted.toLatin1())
+        keys += QByteArray(1, byte);
+    return keys;
+}
+
+std::optional<QByteArrayList> keysFromText(const QString &text)
+{
+    static const QRegularExpression word(
+        QStringLiteral("\\G(?:\"([^\"]*)\"|([\\w-]+)(?:\\*(\\d+))?)(?:\\s+|$)"));
+    QByteArrayList keys;
+    for (int place = 0; place < text.size();) {
+        const QRegularExpressionMatch found = word.match(text, place);
+        const QByteArray key = keyNamed(found.captured(2));
+        if (!found.hasMatch() || (key.isEmpty() && !found.captured(2).isEmpty()))
+            return std::nullopt;
+        if (key.isEmpty())
+            keys += charactersOf(found.captured(1));
+        for (int i = 0; !key.isEmpty() && i < qMax(1, found.captured(3).toInt()); ++i)
+            keys += key;
+        place = found.capturedEnd();
+    }
+    return keys;
+}

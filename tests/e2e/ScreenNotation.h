@@ -1,0 +1,8 @@
+// Rows of a terminal in the notation of transcripts.
+#pragma once
+
+#include "terminal/TerminalEmulator.h"
+
+/// What the 0-based rows show: a line for each run of alike rows, and a second one for the colours
+/// where a row has several.
+QStringList notationOfRows(const TerminalEmulator &terminal, const std::set<int> &rows);

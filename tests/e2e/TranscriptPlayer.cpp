@@ -1,0 +1,128 @@
+#include "tests/e2e/TranscriptPlayer.h"
+
+#include "terminal/KeyText.h"
+#include "tests/e2e/ScreenNotation.h"
+#include "json/JsonReader.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+static QString quoted(QString text)
+{
+    return QStringLiteral("'%1'").arg(text.replace(QLatin1Char('\''), QLatin1String("'\\''")));
+}
+
+QString TranscriptPlayer::play(const TranscriptEntry &entry)
+{
+    switch (entry.kind) {
+    case TranscriptEntry::Screens:
+        device.setScreens(entry.text.toUtf8());
+        return {};
+    case TranscriptEntry::Translations:
+        device.setTranslations(entry.text.toUtf8());
+        return {};
+    case TranscriptEntry::Answer:
+        return setAnswer(entry.text);
+    case TranscriptEntry::Step:
+        return doStep(entry.text);
+    }
+    return {};
+}
+
+QString TranscriptPlayer::setAnswer(const QString &line)
+{
+    static const QRegularExpression form(QStringLiteral("^(.*) => (.*)$"));
+    const QRegularExpressionMatch found = form.match(line);
+    if (!found.hasMatch())
+        return QStringLiteral("an answer without =>");
+    const QString call = quoted(found.captured(1)).replace(QLatin1Char('*'), QLatin1String("'*'"));
+    answers.prepend(QStringLiteral("%1) printf '%s\\n' %2;;").arg(call, quoted(found.captured(2))));
+    const QString branches = answers.join(QLatin1Char('\n'));
+    device.setTool(QStringLiteral("case \"$*\" in\n%1\nesac").arg(branches).toUtf8());
+    return {};
+}
+
+QString TranscriptPlayer::doStep(const QString &action)
+{
+    static const QRegularExpression sized(
+        QStringLiteral("^(start|start demo|resize) (\\d+)x(\\d+)$"));
+    const QRegularExpressionMatch found = sized.match(action);
+    const int columns = found.captured(2).toInt();
+    const int rows = found.captured(3).toInt();
+    if (found.captured(1).startsWith(QLatin1String("start")))
+        return start(found.captured(1).endsWith(QLatin1String("demo")), rows, columns);
+    const auto keys = found.hasMatch() ? QByteArrayList() : keysFromText(action);
+    if (!session || !keys)
+        return QStringLiteral("unknown words, or nothing was started");
+    session->mark();
+    if (found.hasMatch())
+        session->resize(rows, columns);
+    const bool isDone = std::all_of(keys->begin(), keys->end(),
+        [this](const QByteArray &key) { return session->press(key) && session->waitForRest(); });
+    return isDone && session->waitForRest() ? QString() : QStringLiteral("the console hangs");
+}
+
+QString TranscriptPlayer::start(bool onDemo, int rows, int columns)
+{
+    session.reset();
+    demo.reset(onDemo ? new QTemporaryDir : nullptr);
+    session = std::make_unique<PtySession>();
+    session->setStandardError(device.paths().webRoot + QStringLiteral("/messages"));
+    takeCalls();
+    const DevicePaths &paths = device.paths();
+    const bool isStarted = onDemo
+        ? session->start(
+            QStringLiteral(DEMO), { QStringLiteral("--state"), demo->path() }, rows, columns)
+        : session->start(QStringLiteral(TEST_SESSION),
+            { paths.webRoot, paths.settingsScript, paths.backendTool, QStringLiteral("180000") },
+            rows, columns);
+    const bool isDrawn = isStarted
+        && session->waitFor([this] { return !session->bytesSinceMark().isEmpty(); })
+        && session->waitForRest();
+    return isDrawn ? QString() : QStringLiteral("the console does not start");
+}
+
+QStringList TranscriptPlayer::outcome()
+{
+    if (!session)
+        return {};
+    const TerminalEmulator &terminal = session->terminal();
+    QStringList lines = notationOfRows(terminal, terminal.writtenRows());
+    if (terminal.cursorVisible())
+        lines += QStringLiteral("cursor %1,%2")
+                     .arg(terminal.cursor().y() + 1)
+                     .arg(terminal.cursor().x() + 1);
+    if (!terminal.answerBack().isEmpty())
+        lines += QStringLiteral("the terminal answers");
+    const QStringList calls = takeCalls();
+    if (!calls.isEmpty())
+        lines += QStringLiteral("runs ") + calls.join(QStringLiteral("; "));
+    const ExitStatus end = session->status();
+    if (end.state != ExitStatus::Running)
+        lines += QLatin1String(end.state == ExitStatus::Exited ? "exits " : "is killed by ")
+            + QString::number(end.value);
+    return lines.isEmpty() ? QStringList { QStringLiteral("nothing") } : lines;
+}
+
+QStringList TranscriptPlayer::screen() const
+{
+    std::set<int> rows;
+    for (int row = 0; session && row < session->terminal().screen().size(); ++row)
+        rows.insert(row);
+    return session ? notationOfRows(session->terminal(), rows) : QStringList();
+}
+
+QStringList TranscriptPlayer::takeCalls()
+{
+    if (!demo)
+        return device.takeCalls().replaceInStrings(QStringLiteral("|"), QStringLiteral(" "));
+    // The demo's tool writes calls into this file when there is one.
+    QFile log(demo->filePath(QStringLiteral("calls.log")));
+    QStringList calls;
+    if (log.open(QIODevice::ReadWrite)) {
+        while (!log.atEnd())
+            calls += parseJson(log.readLine())->toStringList().join(QLatin1Char(' '));
+        log.resize(0);
+    }
+    return calls;
+}

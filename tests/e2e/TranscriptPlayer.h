@@ -1,0 +1,29 @@
+// Plays the entries of a transcript.
+#pragma once
+
+#include "terminal/PtySession.h"
+#include "tests/e2e/Transcript.h"
+#include "tests/support/FakeDevice.h"
+
+#include <memory>
+
+class TranscriptPlayer {
+public:
+    /// Plays an entry. Returns why that is not possible; nothing when it is done.
+    QString play(const TranscriptEntry &entry);
+    /// What came of the last step since it began, in the notation of expectations.
+    QStringList outcome();
+    /// The whole screen in the same notation.
+    QStringList screen() const;
+
+private:
+    QString setAnswer(const QString &line);
+    QString doStep(const QString &action);
+    QString start(bool onDemo, int rows, int columns);
+    QStringList takeCalls();
+
+    FakeDevice device;
+    QStringList answers; ///< branches of the tool's `case`, the last one first
+    std::unique_ptr<QTemporaryDir> demo; ///< the state of the demo's device while that is played on
+    std::unique_ptr<PtySession> session;
+};
