@@ -25,8 +25,8 @@ inline Finding warning(const char *name, const QString &text)
     return { Severity::Warning, QLatin1String(name), text };
 }
 
-/// Errors of the settings script, with the line where the engine tells it, and with the column too
-/// where the script cannot be parsed.
+/// Errors of the settings script, with the line where the engine knows it, and with the column too
+/// where the script cannot be parsed; a missing version of the definition.
 Findings scriptFindings(LoadedMenu &menu);
 
 /// References to screens that do not exist: in "screens", and to the screen that is to be repeated.
@@ -38,11 +38,22 @@ Findings selfReferenceFindings(const LoadedMenu &menu, const TreeViewItem &item)
 /// Why a screen of the definition is nowhere in the tree.
 Finding unreachedFinding(const LoadedMenu &menu, int screen);
 
-/// Values of a visible item's children that are not stored or cannot be read.
+/// Values of a visible item's children that are not stored or not read, and words that the tool
+/// cannot understand.
 Findings bindingFindings(const TreeViewItemHandler &handler, const TreeViewItem &item);
 
 /// The words of "inputType" and "type" that the console does not know.
 Findings wordFindings(const TreeViewItemHandler &handler, const TreeViewItem &item);
+
+/// Attributes of an item, and of the reference to it, that the console does not read but whose
+/// names are close to one that it does.
+Findings spellingFindings(const TreeViewItemHandler &handler, const TreeViewItem &item);
+
+/// A list of compartments or meters whose number nothing holds.
+Findings listCountFindings(const LoadedMenu &menu, const TreeViewItem &item);
+
+/// Numbers of compartments or meters that the console does not find on their screen.
+Findings countScreenFindings(const LoadedMenu &menu, int screen);
 
 /// Lists, sliders and edit items that cannot be used as they are defined.
 Findings valueFindings(const TreeViewItemHandler &handler, const TreeViewItem &item);

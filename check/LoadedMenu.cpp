@@ -1,5 +1,6 @@
 #include "check/LoadedMenu.h"
 
+#include "check/QuietMessages.h"
 #include "menu/TreeBuilder.h"
 #include "render/MenuView.h"
 #include "render/ViewState.h"
@@ -13,12 +14,26 @@ void expandAll(TreeViewItem &item)
         expandAll(*child);
 }
 
+// What the console logs about the script is reported as findings.
+QScriptValue loadQuietly(TreeViewItemHandler &handler)
+{
+    const QuietMessages quiet;
+    return handler.scriptHelper().load();
+}
+
+QScriptValue globalSettings(TreeViewItemHandler &handler)
+{
+    return handler.scriptHelper().scriptEngine().globalObject().property(
+        QStringLiteral("Settings"));
+}
+
 } // namespace
 
 LoadedMenu::LoadedMenu(const DevicePaths &paths)
     : paths(paths)
     , handler(paths)
-    , settings(handler.scriptHelper().load())
+    , settings(loadQuietly(handler))
+    , global(globalSettings(handler))
     , screens(settings, handler.names())
     , root(buildTree(settings.property(0), screens, { 1, 1 }, handler.names()))
 {

@@ -12,6 +12,7 @@ struct LoadedMenu {
     const DevicePaths paths;
     TreeViewItemHandler handler;
     const QScriptValue settings; ///< as the settings script defines it; an error when it fails
+    const QScriptValue global; ///< the script's global `Settings`
     const ScreenIndex screens;
     const std::unique_ptr<TreeViewItem> root;
 };

@@ -6,7 +6,7 @@
 
 namespace {
 
-// The shortest texts that a rule can take: nothing, or the number of the range next to zero.
+// The shortest texts that a rule can take: none, or the number of the range next to zero.
 bool acceptsSomething(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
     const QStringList texts = { QString(), QStringLiteral("0"),
@@ -31,8 +31,26 @@ QString whyNothingFits(const QString &rule, const InputRule &parts)
     if (parts.kind == InputRule::Number && rule.contains(QLatin1Char('.')))
         return QStringLiteral("is for decimals, which are refused; use a smaller unit");
     if (!parts.length)
-        return QStringLiteral("has no whole number behind its letter; write the length there");
+        return QStringLiteral("has no whole number after its letter; write the length there");
     return QStringLiteral("leaves nothing to type; correct its length or the \"range\"");
+}
+
+// The ends of the range that are too long to be typed.
+Findings roomFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    if (inputRule(handler, item).kind != InputRule::Number)
+        return {};
+    Findings findings;
+    for (const int end : { 0, 1 }) {
+        const QString number = QString::number(rangeValue(handler, item, end));
+        if (!validateInput(handler, item, number)) {
+            findings << warning("narrow-rule",
+                QStringLiteral("the rule \"%1\" has no room for %2 of its \"range\"; give it more "
+                               "characters, the sign counts too")
+                    .arg(validation(handler, item), number));
+        }
+    }
+    return findings;
 }
 
 } // namespace
@@ -44,7 +62,7 @@ Findings ruleFindings(const TreeViewItemHandler &handler, const TreeViewItem &it
             QStringLiteral("without \"validation\" every text is refused; give it a rule")) };
     }
     if (acceptsSomething(handler, item))
-        return {};
+        return roomFindings(handler, item);
     const QString rule = validation(handler, item);
     const InputRule parts = inputRule(handler, item);
     if (parts.kind == InputRule::Number && parts.length && !hasRange(handler, item)) {

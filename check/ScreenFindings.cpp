@@ -4,8 +4,6 @@
 
 #include <QScriptValueIterator>
 
-#include <algorithm>
-
 namespace {
 
 // The css of every screen that the definition leads to.
@@ -75,25 +73,4 @@ Finding unreachedFinding(const LoadedMenu &menu, int screen)
         QStringLiteral("nothing leads to screen number %1; name its css in the \"screens\" of "
                        "another, or remove it")
             .arg(screen));
-}
-
-Findings bindingFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
-{
-    Findings findings;
-    const auto &children = item.children;
-    const auto isEditable = [&handler](const auto &child) {
-        return handler.isVisible(*child) && handler.isEditable(*child);
-    };
-    if (!handler.writeBinding(item)
-        && std::any_of(children.cbegin(), children.cend(), isEditable)) {
-        findings << error("no-write",
-            QStringLiteral("what is edited in it is not stored; add an \"ajax-write\", or give its "
-                           "items \"remote\" 2"));
-    }
-    if (handler.readBinding(item) && children.empty()) {
-        findings << warning("dead-read",
-            QStringLiteral("its \"ajax-read\" is never used, as there is nothing to open; add the "
-                           "items that it reads, or remove it"));
-    }
-    return findings;
 }

@@ -32,5 +32,12 @@ QString scriptError(LoadedMenu &menu)
 Findings scriptFindings(LoadedMenu &menu)
 {
     const QString text = scriptError(menu);
-    return text.isEmpty() ? Findings() : Findings { error("script", text) };
+    if (!text.isEmpty())
+        return { error("script", text) };
+    if (menu.handler.setupStructureVersion().isEmpty()) {
+        return { warning("no-version",
+            QStringLiteral("it has no \"setupStructureVersion\", so the bottom row shows none; add "
+                           "it to \"Settings\"")) };
+    }
+    return {};
 }

@@ -1,10 +1,10 @@
 // The checker of menu definitions, for those who write them.
+#include "check/FileFault.h"
 #include "check/MenuCheck.h"
 #include "locale/CTranslationHandler.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QFile>
 
 #include <Version.h>
 
@@ -37,27 +37,12 @@ int failure(const QString &text)
     return CannotLoad;
 }
 
-bool isReadable(const QString &path)
-{
-    return QFile(path).open(QIODevice::ReadOnly);
-}
-
-// Files that are missing altogether are no problem of the definition but one of the call.
-QString missingFile(const DevicePaths &paths)
-{
-    if (!isReadable(paths.settingsScript))
-        return paths.settingsScript;
-    CTranslationHandler::setInstanceRoot(paths.webRoot);
-    const bool hasTexts =
-        !CTranslationHandler::instance().translationMap(QStringLiteral("en")).isEmpty();
-    return hasTexts ? QString() : paths.webRoot + QLatin1String("/locales/en/translation.json");
-}
-
 int check(const DevicePaths &paths, bool wantsTree)
 {
-    const QString missing = missingFile(paths);
-    if (!missing.isEmpty())
-        return failure(QStringLiteral("cannot load ") + missing);
+    const QString fault = fileFault(paths);
+    if (!fault.isEmpty())
+        return failure(QStringLiteral("cannot load ") + fault);
+    CTranslationHandler::setInstanceRoot(paths.webRoot);
     LoadedMenu menu(paths);
     if (wantsTree && !menu.root->children.empty()) {
         printLines(menuOutline(menu));

@@ -1,5 +1,6 @@
 #include "json/JsonReader.h"
 
+#include <rapidjson/error/en.h>
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
 
@@ -88,9 +89,23 @@ private:
     std::vector<Container> open;
 };
 
+JsonFault faultAt(const QByteArray &json, size_t offset, rapidjson::ParseErrorCode error)
+{
+    const QByteArray before = json.left(int(offset));
+    const QByteArray line = before.mid(before.lastIndexOf('\n') + 1);
+    QString reason = QString::fromLatin1(rapidjson::GetParseError_En(error));
+    if (error == rapidjson::kParseErrorNone)
+        reason = QStringLiteral("A zero byte ends the text");
+    else if (error == rapidjson::kParseErrorTermination)
+        reason = QStringLiteral("A number is too large, or the nesting too deep");
+    else
+        reason.chop(1); // the full stop
+    return { before.count('\n') + 1, QString::fromUtf8(line).size() + 1, reason };
+}
+
 } // namespace
 
-std::optional<QVariant> parseJson(const QByteArray &json)
+std::optional<QVariant> parseJson(const QByteArray &json, JsonFault *fault)
 {
     // The iterative parser keeps hostile nesting off the stack; the library's own way to read
     // numbers is either inexact or undefined for a zero with an exponent.
@@ -101,7 +116,11 @@ std::optional<QVariant> parseJson(const QByteArray &json)
     VariantBuilder builder;
     const bool isParsed = reader.Parse<flags>(stream, builder);
     // The library takes a NUL byte for the end.
-    if (!isParsed || stream.Tell() != size_t(json.size()))
-        return std::nullopt;
-    return builder.value;
+    if (isParsed && stream.Tell() == size_t(json.size()))
+        return builder.value;
+    if (fault) {
+        const size_t offset = isParsed ? stream.Tell() : reader.GetErrorOffset();
+        *fault = faultAt(json, offset, reader.GetParseErrorCode());
+    }
+    return std::nullopt;
 }

@@ -1,10 +1,10 @@
 #include "menu/TreeViewItemHandler.h"
 
+#include "menu/CountEntry.h"
 #include "menu/ScreenIndex.h"
 #include "menu/TreeBuilder.h"
 
 #include <QDebug>
-#include <QScriptValueIterator>
 
 namespace {
 
@@ -37,43 +37,32 @@ std::unique_ptr<TreeViewItem> TreeViewItemHandler::build()
 {
     const QScriptValue settings = script.load();
     const ScreenIndex screens(settings, propertyNames);
-    RepeatCounts counts;
-    counts.compartments = repetitions(lookUpCount(screens, QStringLiteral("btnParameterTruckSetup"),
-                                          QStringLiteral("truck_setup_compartments")),
-        "compartments");
-    counts.meters =
-        repetitions(lookUpCount(screens, QStringLiteral("btnParameterInterfacesCanFasWm"),
-                        QStringLiteral("interfaces_can_fas_wm_fpi")),
-            "meters");
-    return buildTree(settings.property(0), screens, counts, propertyNames);
+    return buildTree(settings.property(0), screens, readCounts(screens), propertyNames);
 }
 
-QVariant TreeViewItemHandler::lookUpCount(
-    const ScreenIndex &screens, const QString &css, const QString &fieldKey)
+RepeatCounts TreeViewItemHandler::readCounts(const ScreenIndex &screens)
 {
-    const int screen = screens.find(css);
+    return { repetitions(lookUpCount(screens, compartmentCount), "compartments"),
+        repetitions(lookUpCount(screens, meterCount), "meters") };
+}
+
+QVariant TreeViewItemHandler::lookUpCount(const ScreenIndex &screens, const CountEntry &entry)
+{
+    const int screen = screens.find(QLatin1String(entry.screen));
     if (screen < 0)
         return {};
-    const QScriptValue entries = screens.at(screen).property(propertyNames.screens);
-    if (!entries.isValid())
+    if (!screens.at(screen).property(propertyNames.screens).isValid())
         return noCount("!screens.isValid()");
-    QScriptValueIterator entry(entries);
-    int searchIndex = -1;
-    for (int position = 0; entry.hasNext() && searchIndex < 0; ++position) {
-        entry.next();
-        const QScriptValue key = entry.value().property(propertyNames.i18n);
-        if (key.isValid() && key.toString() == fieldKey)
-            searchIndex = position;
-    }
-    if (searchIndex < 0)
+    const int place = placeOf(entry, screens.at(screen), propertyNames);
+    if (place < 0)
         return noCount("!searchIndexFound");
     const QScriptValue readWords = screens.at(screen).property(propertyNames.read);
     if (!readWords.isValid())
         return noCount("!ajaxRead.isValid()");
     const QVariantList answer = script.read({ readWords.toString() }, false);
-    if (searchIndex >= answer.size())
+    if (place >= answer.size())
         return noCount("!ajaxResult.count()");
-    return answer.at(searchIndex);
+    return answer.at(place);
 }
 
 void TreeViewItemHandler::numberVisibleItems(

@@ -11,6 +11,8 @@
 #include <optional>
 
 class ScreenIndex;
+struct CountEntry;
+struct RepeatCounts;
 
 /// Owns the script with the menu definition and answers every question about the menu. The
 /// operations on values run the backend tool and block until it has answered; a tool that fails
@@ -26,6 +28,10 @@ public:
     /// builds the tree. The tree must not outlive the handler. A definition that is missing or
     /// broken gives a root without children.
     std::unique_ptr<TreeViewItem> build();
+
+    /// Asks the backend for the numbers of compartments and meters; a number that cannot be had, or
+    /// is above 999, is 0.
+    RepeatCounts readCounts(const ScreenIndex &screens);
 
     /// Numbers the visible items from `item` down, depth first through expanded items: appends each
     /// to `items`, its place there being its line in the menu. The root gets none.
@@ -97,6 +103,9 @@ public:
     /// them, and without running it when the group has no write binding.
     bool writeItemValues(const TreeViewItem &item);
 
+    /// True for what has a place in the backend's lists of values: all but separators and buttons.
+    bool isValueBearing(const TreeViewItem &item) const;
+
     /// The values of the group's value-bearing children, in their order.
     QVariantList collectItemValues(const TreeViewItem &group) const;
 
@@ -106,8 +115,7 @@ public:
     /// @}
 
 private:
-    QVariant lookUpCount(const ScreenIndex &screens, const QString &css, const QString &fieldKey);
-    bool isValueBearing(const TreeViewItem &item) const;
+    QVariant lookUpCount(const ScreenIndex &screens, const CountEntry &entry);
     bool readValues(TreeViewItem &item);
     void readOpenItems(TreeViewItem &item);
 

@@ -1,0 +1,66 @@
+#include "check/Findings.h"
+
+#include <algorithm>
+
+namespace {
+
+// A field of the screen itself that is shown with a value; what a reference leads to is not.
+bool showsValue(const TreeViewItemHandler &handler, const TreeViewItem &child)
+{
+    return !child.referringEntry.isValid() && handler.isVisible(child)
+        && handler.isValueBearing(child);
+}
+
+Findings readFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    const auto &children = item.children;
+    const bool hasBinding = handler.readBinding(item).has_value();
+    const bool hasValues = std::any_of(children.cbegin(), children.cend(),
+        [&handler](const auto &child) { return showsValue(handler, *child); });
+    // It needs no opening, and reading comes with that.
+    if (!item.parentItem && (hasBinding || hasValues)) {
+        return { error("no-read",
+            QStringLiteral("the start page is never read, its fields stay empty; move them to a "
+                           "screen of their own")) };
+    }
+    if (hasBinding && children.empty()) {
+        return { warning("dead-read",
+            QStringLiteral("its \"ajax-read\" is never used, as there is nothing to open; add the "
+                           "items that it reads, or remove it")) };
+    }
+    if (!hasBinding && hasValues) {
+        return { error("no-read",
+            QStringLiteral("its fields are never read and stay empty; add an \"ajax-read\"")) };
+    }
+    return {};
+}
+
+bool hasQuote(const QString &words)
+{
+    return words.contains(QLatin1Char('"')) || words.contains(QLatin1Char('\''));
+}
+
+} // namespace
+
+Findings bindingFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    Findings findings = readFindings(handler, item);
+    const auto isEditable = [&handler](const auto &child) {
+        return handler.isVisible(*child) && handler.isEditable(*child);
+    };
+    if (!handler.writeBinding(item)
+        && std::any_of(item.children.cbegin(), item.children.cend(), isEditable)) {
+        findings << error("no-write",
+            QStringLiteral("what is edited in it is not stored; add an \"ajax-write\", or give its "
+                           "items \"remote\" 2"));
+    }
+    for (const auto &words : { handler.readBinding(item), handler.writeBinding(item) }) {
+        if (words && hasQuote(*words)) {
+            findings << error("quotes",
+                QStringLiteral("the words are split at blanks, and the quotes in <%1> reach the "
+                               "tool; remove them")
+                    .arg(*words));
+        }
+    }
+    return findings;
+}

@@ -1,0 +1,37 @@
+// The lines of a report on a menu definition.
+#pragma once
+
+#include "check/Findings.h"
+
+#include <QStringList>
+
+#include <set>
+#include <tuple>
+
+/// Collects findings as lines: severity, place, text, and in brackets the name. A screen or field
+/// allows findings by their names in its "checkIgnore", the global `Settings` those that belong to
+/// no screen.
+class Report {
+public:
+    explicit Report(const LoadedMenu &menu)
+        : menu(menu)
+    {
+    }
+
+    /// Adds what was found at `item`: its place is the css of its screen and the labels on the way
+    /// to it. What several ways lead to is reported once, but for every compartment or meter
+    /// that is given as `instance`, counted from 0.
+    void add(const TreeViewItem &item, const Findings &findings, int instance = -1);
+
+    /// Adds what was found at a file or program.
+    void add(const QString &place, const Findings &findings);
+
+    const QStringList &lines() const { return reportLines; }
+
+private:
+    QString placeOf(const TreeViewItem &item, int instance) const;
+
+    const LoadedMenu &menu;
+    std::set<std::tuple<qint64, int, QString>> reported; ///< definition, instance, text
+    QStringList reportLines;
+};

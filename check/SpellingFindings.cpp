@@ -1,0 +1,129 @@
+#include "check/Findings.h"
+#include "menu/RepeatedScreen.h"
+
+#include <QScriptValueIterator>
+
+namespace {
+
+enum class Form { Text, Number, Flag, List };
+
+struct Attribute {
+    QString name;
+    Form form;
+};
+
+using Attributes = QVector<Attribute>;
+
+Attributes attributesOfReferences(const PropertyNames &names)
+{
+    return { { names.css, Form::Text }, { names.i18n, Form::Text }, { names.type, Form::Text },
+        { names.remote, Form::Number } };
+}
+
+// What the console reads from a screen or field of this kind.
+Attributes attributesOf(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    const PropertyNames &names = handler.names();
+    Attributes attributes = attributesOfReferences(names);
+    attributes += { { names.inputType, Form::Text }, { names.accessLevel, Form::Number },
+        { names.screens, Form::List }, { names.read, Form::Text }, { names.write, Form::Text },
+        { QStringLiteral("checkIgnore"), Form::Text } };
+    const InputKind kind = handler.inputKind(item);
+    if (kind == DropdownInput || kind == SelectLabelInput) {
+        attributes += { { names.values, Form::List }, { names.dbValues, Form::List },
+            { names.integer, Form::Flag } };
+    } else if (kind == SliderInput) {
+        attributes += { { names.minimum, Form::Number }, { names.maximum, Form::Number },
+            { names.step, Form::Number } };
+    } else if (kind == EditInput) {
+        attributes += { { names.validation, Form::Text }, { names.range, Form::List } };
+    }
+    return attributes;
+}
+
+// How many characters are to be inserted, removed, replaced or swapped with their neighbour.
+int editDistance(const QString &from, const QString &to)
+{
+    QVector<QVector<int>> distances(from.size() + 1, QVector<int>(to.size() + 1));
+    for (int i = 0; i <= from.size(); ++i) {
+        for (int j = 0; j <= to.size(); ++j) {
+            int &distance = distances[i][j];
+            if (i == 0 || j == 0) {
+                distance = i + j;
+                continue;
+            }
+            const bool isEqual = from[i - 1] == to[j - 1];
+            distance = qMin(qMin(distances[i - 1][j], distances[i][j - 1]) + 1,
+                distances[i - 1][j - 1] + (isEqual ? 0 : 1));
+            if (i > 1 && j > 1 && from[i - 1] == to[j - 2] && from[i - 2] == to[j - 1])
+                distance = qMin(distance, distances[i - 2][j - 2] + 1);
+        }
+    }
+    return distances[from.size()][to.size()];
+}
+
+QString simplified(const QString &name)
+{
+    return name.toLower().remove(QLatin1Char('-')).remove(QLatin1Char('_'));
+}
+
+bool hasForm(const QScriptValue &value, Form form)
+{
+    switch (form) {
+    case Form::Text:
+        return value.isString();
+    case Form::Number:
+        return (value.isNumber() || value.isString()) && !qIsNaN(value.toNumber());
+    case Form::Flag:
+        return value.isBool();
+    case Form::List:
+        return value.isObject();
+    }
+    return false;
+}
+
+// Browsers have attributes of their own, so short words must match but for case and hyphens, and
+// the value must be of the kind that the console expects.
+bool isMisspelled(const QString &name, const QScriptValue &value, const Attribute &attribute)
+{
+    constexpr int shortWord = 3;
+    constexpr int longWord = 9;
+    const QString meant = simplified(attribute.name);
+    const QString written = simplified(name);
+    if (value.isFunction() || name == attribute.name)
+        return false;
+    if (written == meant)
+        return true;
+    const int tolerance = meant.size() <= shortWord ? 0 : meant.size() < longWord ? 1 : 2;
+    return hasForm(value, attribute.form) && qAbs(meant.size() - written.size()) <= tolerance
+        && editDistance(written, meant) <= tolerance;
+}
+
+Findings misspellings(const QScriptValue &definition, const Attributes &attributes)
+{
+    Findings findings;
+    QScriptValueIterator property(definition);
+    while (definition.isObject() && property.hasNext()) {
+        property.next();
+        for (const Attribute &attribute : attributes) {
+            if (!definition.property(attribute.name).isValid()
+                && isMisspelled(property.name(), property.value(), attribute)) {
+                findings << warning("misspelled-attribute",
+                    QStringLiteral("\"%1\" has no effect; write \"%2\"")
+                        .arg(property.name(), attribute.name));
+            }
+        }
+    }
+    return findings;
+}
+
+} // namespace
+
+Findings spellingFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    Findings findings = misspellings(item.definition, attributesOf(handler, item));
+    // A repeated screen has the list that it is in as its reference.
+    if (!isRepeatedScreen(item.referringEntry, handler.names()))
+        findings += misspellings(item.referringEntry, attributesOfReferences(handler.names()));
+    return findings;
+}
