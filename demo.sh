@@ -32,8 +32,8 @@ Keys in a dialog
 
 A text is green when it is accepted and red when it is not. Return on red closes
 the dialog and writes nothing. "Enter new Value 10" stands for up to 10
-characters; with 0 nothing can be entered. Use no other keys: Delete, Home, End
-and function keys can leave characters in the text.
+characters; with 0 nothing can be entered. Press no other special keys: Delete,
+End or a function key can leave characters in the text.
 
 Keys on an interface screen
   PgUp, PgDn             previous, next interface

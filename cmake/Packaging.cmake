@@ -50,8 +50,8 @@ set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "service console of a truck controller for
 set(CPACK_PACKAGE_DESCRIPTION
     "Dravikon shows the menu of the controller's web interface on a plain VT100/ANSI
 terminal. It evaluates the web interface's settings script, translates labels
-with its tables, and reads and writes values by the device's backend tool.
-dravikon-menu-check reports what is wrong with a menu definition.")
+with its tables, and reads and writes values by running the device's backend
+tool. dravikon-menu-check reports what is wrong with a menu definition.")
 set(CPACK_DEBIAN_PACKAGE_SECTION comm)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
