@@ -20,7 +20,7 @@ public:
     /// Restores the terminal and leaves it cleared.
     ~TerminalGui() override;
 
-    /// Takes over the size of the terminal, 80 x 24 when it tells none.
+    /// Takes over the size of the terminal, 80 x 24 when it reports none.
     void updateWindowSize();
 
     /// Takes over a requested view and draws the current one.

@@ -1,11 +1,11 @@
-// What the menu and the diagnose screens ask of the backend, and what they tell it.
+// What the menu and the diagnose screens ask of the backend, and what they write to it.
 #include "menu/TreeViewItemHandler.h"
 
 namespace {
 
 constexpr int sealedAccessLevel = 4;
 
-// Repeated screens share their words; the number of the compartment or meter tells them apart.
+// Repeated screens share their words; the number of the compartment or meter makes the difference.
 QStringList argumentsOf(const QString &binding, int index)
 {
     QStringList arguments = binding.split(QLatin1Char(' '), Qt::SkipEmptyParts);

@@ -4,7 +4,7 @@
 #include "menu/TreeViewItemHandler.h"
 #include "render/ViewState.h"
 
-/// The diagnose screen that `item` opens, with what the backend tells right now, as a box over the
+/// The diagnose screen that `item` opens, with what the backend reports now, as a box over the
 /// whole of the terminal but its bars. An item that opens none, or no item, leaves the box empty.
 /// On entering a screen that pages, sets the state to the first interface.
 Frame diagnoseScreen(ViewState &state, TreeViewItemHandler &handler, const TreeViewItem *item);

@@ -1,4 +1,4 @@
-// The screen of the TAG interface: what the tag tells, one labelled value a line.
+// The screen of the TAG interface: what the tag reports, one labelled value a line.
 #pragma once
 
 #include "render/Frame.h"

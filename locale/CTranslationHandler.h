@@ -14,7 +14,7 @@ class CTranslationHandler {
 public:
     explicit CTranslationHandler(const QString &guiRoot = DevicePaths().webRoot);
 
-    /// The instance behind `translate`; made at the first call, never destroyed.
+    /// The instance that `translate` uses; made at the first call, never destroyed.
     static CTranslationHandler &instance();
 
     /// Sets the root (no trailing slash) that the instance will be made with; without effect once

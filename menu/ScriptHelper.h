@@ -13,13 +13,15 @@
 /// long as the helper; every script value handed out belongs to it.
 class ScriptHelper : public QObject {
 public:
+    /// \name The menu definition (bodies in menu/ScriptHelper.cpp)
+    /// @{
     explicit ScriptHelper(const DevicePaths &paths);
 
     /// The text of the settings script; empty when the file cannot be read.
     QString settingsScript() const;
 
     /// Evaluates the settings script and returns the `settings` member of its global `Settings`.
-    /// A script that fails gives its error object, after warnings that tell the error's properties;
+    /// A script that fails gives its error object, after warnings with the properties of the error;
     /// a file that cannot be read counts as an empty script, which gives an invalid value.
     QScriptValue load();
 
@@ -27,7 +29,10 @@ public:
     const QString &setupStructureVersion() const { return structureVersion; }
 
     QScriptEngine &scriptEngine() { return engine; }
+    /// @}
 
+    /// \name Calls of the tool (bodies in backend/BackendCalls.cpp)
+    /// @{
     /// Runs the backend tool with `arguments` and returns what it printed on standard output. A
     /// tool that is missing, crashes or hangs shows only as missing output.
     QByteArray run(const QStringList &arguments) const;
@@ -47,6 +52,7 @@ public:
 
     /// `values` as the text of a JSON array in plain ASCII; a null text when JSON cannot hold them.
     static QString variantListToJson(const QVariantList &values);
+    /// @}
 
 private:
     QString structureVersion = QStringLiteral("/");

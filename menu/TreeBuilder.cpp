@@ -65,8 +65,8 @@ private:
             entry.next();
             const QScriptValue definition = entry.value();
             const QScriptValue css = definition.property(names.css);
-            // The "length" of an array, always a number, comes up as an entry too; it takes the way
-            // of a reference to the screen without a name, where the web interface looks for one.
+            // The iterator also yields an array's "length", always a number. It has no css, so it
+            // refers to the screen whose css is empty, if there is one.
             const bool mayBeLength = !isArray || definition.isNumber();
             if (!css.isValid() && !(mayBeLength && entry.scriptName() == names.length)) {
                 item.addChild(definition, QScriptValue(), index);

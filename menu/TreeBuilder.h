@@ -11,8 +11,8 @@ struct RepeatCounts {
 };
 
 /// Builds the tree whose root is defined by `root`, following references through `screens`. A
-/// reference that names no screen is dropped; one that leads back to the screen it stands in, or to
-/// one above that, is dropped with a warning, as is whatever goes beyond 200,000 items or 1,000
+/// reference that names no screen is dropped; one that leads back to the screen that holds it, or
+/// to one above that, is dropped with a warning, as is whatever goes beyond 200,000 items or 1,000
 /// levels.
 std::unique_ptr<TreeViewItem> buildTree(const QScriptValue &root, const ScreenIndex &screens,
     const RepeatCounts &counts, const PropertyNames &names);

@@ -1,4 +1,4 @@
-// The menu tree: building it, its items' attributes, and the values behind them.
+// The menu tree: building it, its items' attributes, and their values in the backend.
 #pragma once
 
 #include "menu/ItemKinds.h"
@@ -41,10 +41,10 @@ public:
     const QString &setupStructureVersion() const { return script.setupStructureVersion(); }
     const PropertyNames &names() const { return propertyNames; }
     int accessLevel() const { return currentAccessLevel; }
-    /// Stands in for `updateAccessLevel` where there is no backend to ask.
+    /// Replaces `updateAccessLevel` where there is no backend to ask.
     void setAccessLevel(int level) { currentAccessLevel = level; }
 
-    /// \name Attributes, read from the item's definition
+    /// \name Attributes, read from the item's definition (bodies in menu/ItemAttributes.cpp)
     /// A missing attribute reads as 0, false or an empty text. Positions in lists count from 0.
     /// @{
     QString labelKey(const TreeViewItem &item) const;
@@ -77,7 +77,7 @@ public:
     int indexOfDatabaseValue(const TreeViewItem &item, const QVariant &value) const;
     /// @}
 
-    /// \name Values in the backend
+    /// \name Values in the backend (bodies in backend/MenuValueQueries.cpp)
     /// @{
     /// Asks for the seal's state and sets the access level by it: 6 while the seal is open, else 4.
     void updateAccessLevel();
@@ -86,7 +86,7 @@ public:
     /// the item that was opened since the last refresh.
     void refreshValues(TreeViewItem &root);
 
-    /// What the backend tells of the interfaces of `kind`; `tagNumber` counts for TAG only. Empty,
+    /// What the backend reports of the interfaces of `kind`; only TAG uses `tagNumber`. Empty,
     /// without running the tool, for an unknown kind.
     QVariantList interfaceList(InterfaceKind kind, int tagNumber);
 
