@@ -152,22 +152,20 @@ void TerminalGui::leaveDiagnose()
 
 void TerminalGui::confirmEdit()
 {
-    if (commitValue(state, handler, state.selectedIndex)
-        && !handler.writeItemValues(*state.selectedItem())) {
+    const bool isChosen = commitValue(state, handler, state.selectedIndex);
+    if (isChosen && !handler.writeItemValues(*state.selectedItem())) {
         state.statusText = QStringLiteral("ERROR");
-        state.hasRefusedValue = true;
         return;
     }
-    state.hasRefusedValue = false;
+    if (isChosen)
+        state.formerValue.reset();
+    dropEdit();
     state.menuLines.clear();
-    state.requestedView = MenuView;
 }
 
 void TerminalGui::dropEdit()
 {
-    // A value that the backend refused must not go out with the next write of its group.
-    if (state.hasRefusedValue)
-        state.menuLines.clear();
-    state.hasRefusedValue = false;
+    // A value that the backend refused must neither be shown nor go out with its group.
+    dropValue(state);
     state.requestedView = MenuView;
 }

@@ -116,6 +116,7 @@ void TerminalGui::numberItems()
 void TerminalGui::drawMenu()
 {
     if (state.menuLines.isEmpty() && state.currentView != StartView && root) {
+        dropValue(state); // what is read now is newer than what a dialog has changed
         handler.refreshValues(*root);
         state.menuLines = menuLines(handler, *root, state.termColumns, &state.statusText);
     }

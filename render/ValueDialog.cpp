@@ -218,15 +218,26 @@ Frame valueDialog(ViewState &state, const TreeViewItemHandler &handler, const Tr
     return dialog.draw ? dialog.draw(state, handler, item) : Frame();
 }
 
-bool commitValue(const ViewState &state, const TreeViewItemHandler &handler, int index)
+bool commitValue(ViewState &state, const TreeViewItemHandler &handler, int index)
 {
     TreeViewItem *const item = state.visibleItems.value(index);
     const Dialog dialog = item ? dialogOf(handler.inputKind(*item)) : Dialog();
     const std::optional<QVariant> value =
         dialog.value ? dialog.value(state, handler, *item) : std::nullopt;
-    if (value)
-        item->value = *value;
-    return value.has_value();
+    if (!value)
+        return false;
+    if (!state.formerValue)
+        state.formerValue = item->value;
+    item->value = *value;
+    return true;
+}
+
+void dropValue(ViewState &state)
+{
+    TreeViewItem *const item = state.selectedItem();
+    if (item && state.formerValue)
+        item->value = *state.formerValue;
+    state.formerValue.reset();
 }
 
 void moveSelection(ViewState &state, const TreeViewItemHandler &handler, bool horizontal, int delta)
@@ -244,6 +255,7 @@ void moveSelection(ViewState &state, const TreeViewItemHandler &handler, bool ho
             state.dialogValue = horizontalIndex(state, handler, state.dialogValue + distance);
         else
             state.listIndex = within(state.listMin, state.optionCount, state.listIndex + distance);
+        state.overlayLines.clear();
         break;
     case NoView:
         break;

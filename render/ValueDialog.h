@@ -29,6 +29,9 @@ void removeCharacter(ViewState &state, const TreeViewItemHandler &handler);
 CursorPosition editPosition(const ViewState &state, const TreeViewItemHandler &handler);
 
 /// Gives the item on menu line `index` the value chosen in its dialog, in the type of its input
-/// kind. False, and the item unchanged, when there is no such item, when its kind has no dialog, or
-/// when its rule refuses the text.
-bool commitValue(const ViewState &state, const TreeViewItemHandler &handler, int index);
+/// kind, and keeps what it had in `formerValue`. False, and the item unchanged, when there is no
+/// such item, when its kind has no dialog, or when its rule refuses the text.
+bool commitValue(ViewState &state, const TreeViewItemHandler &handler, int index);
+
+/// Gives the selected item its `formerValue` back, if there is one.
+void dropValue(ViewState &state);

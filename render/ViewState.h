@@ -5,7 +5,10 @@
 #include "render/Frame.h"
 
 #include <QString>
+#include <QVariant>
 #include <QVector>
+
+#include <optional>
 
 enum ViewId {
     NoView = -1,
@@ -40,7 +43,8 @@ struct ViewState {
     int step = 1; ///< what one key press moves
 
     QString editBuffer; ///< the text being edited
-    bool hasRefusedValue = false; ///< the item holds a value that the backend did not take
+    /// What the selected item held when its dialog opened, while it holds a value chosen since.
+    std::optional<QVariant> formerValue;
     QString statusText = QStringLiteral("-"); ///< a note for debuggers; shown nowhere
     QString dbcVersion; ///< the version of the backend tool
 
