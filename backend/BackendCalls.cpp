@@ -4,6 +4,7 @@
 #include "device/BackendTool.h"
 #include "json/JsonReader.h"
 #include "json/JsonWriter.h"
+#include "json/Values.h"
 
 #include <QDebug>
 
@@ -29,7 +30,7 @@ bool ScriptHelper::write(QStringList &arguments, const QVariantList &values)
         return false;
     }
     arguments.append(json);
-    return byteArray2VariantList(run(arguments)).value(0).toBool();
+    return truthOf(byteArray2VariantList(run(arguments)).value(0));
 }
 
 QVariantList ScriptHelper::byteArray2VariantList(const QByteArray &bytes)

@@ -4,6 +4,7 @@
 #include "render/ForeignText.h"
 #include "render/MenuView.h"
 #include "render/ViewState.h"
+#include "json/Values.h"
 
 #include <algorithm>
 
@@ -17,7 +18,7 @@ bool hasLetter(const QString &text)
 bool isTranslated(const QString &key)
 {
     const QVariantMap table = CTranslationHandler::instance().translationMap(QStringLiteral("en"));
-    return !table.value(key).toString().isEmpty();
+    return !textOf(table.value(key)).isEmpty();
 }
 
 bool canBeShown(uint character)
@@ -68,7 +69,7 @@ Findings textFindings(const TreeViewItemHandler &handler, const TreeViewItem &it
     }
     if (kind == DropdownInput || kind == SelectLabelInput) {
         for (int i = 0, count = handler.valueCount(item); i < count; ++i)
-            checkText(findings, QStringLiteral("option text"), handler.valueAt(item, i).toString());
+            checkText(findings, QStringLiteral("option text"), textOf(handler.valueAt(item, i)));
     }
     return findings;
 }

@@ -1,6 +1,7 @@
 #include "diagnose/AsScreen.h"
 
 #include "diagnose/ScreenLines.h"
+#include "json/Values.h"
 
 namespace {
 
@@ -32,7 +33,7 @@ void drawAsScreen(Frame &frame, const QVariantList &answer, QString &statusText)
     for (int i = 0; i < sensors.size(); ++i) {
         const QVariantList sensor = sensors.at(i).toList();
         placeLeft(frame, firstSensorLine + i,
-            sensorRow(columnWidth, QString::number(i + 1), sensor.value(1).toString(),
-                sensor.value(0).toString()));
+            sensorRow(columnWidth, QString::number(i + 1), textOf(sensor.value(1)),
+                textOf(sensor.value(0))));
     }
 }

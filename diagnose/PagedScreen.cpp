@@ -1,6 +1,7 @@
 #include "diagnose/PagedScreen.h"
 
 #include "diagnose/ScreenLines.h"
+#include "json/Values.h"
 
 namespace {
 
@@ -14,7 +15,7 @@ void drawChannels(
         const int channel = row.firstChannel + i;
         const int column = (layout.firstColumn + i) * columnWidth;
         insertText(numberText, column, QString::number(channel));
-        insertText(valueText, column, QString::number(values.value(channel - 1).toLongLong()));
+        insertText(valueText, column, QString::number(wideIntegerOf(values.value(channel - 1))));
     }
     const auto place = layout.centred ? placeMessage : placeLeft;
     place(frame, row.numberLine, numberText);
@@ -32,7 +33,7 @@ void drawPagedScreen(
         return placeNotAvailable(frame);
     const QVariantList interface = answer.at(shown).toList();
     if (interface.isEmpty())
-        return placeMessage(frame, 2, answer.at(shown).toString());
+        return placeMessage(frame, 2, textOf(answer.at(shown)));
     placeVersions(frame, interface);
     for (const ChannelRow &row : layout.rows)
         drawChannels(frame, layout, row, interface.value(row.element).toList());

@@ -1,6 +1,7 @@
 #include "diagnose/ScreenLines.h"
 
 #include "render/ForeignText.h"
+#include "json/Values.h"
 
 namespace {
 
@@ -27,7 +28,7 @@ void placeMessage(Frame &frame, int line, const QString &text)
 
 void placeLabelled(Frame &frame, int line, const char *label, const QVariant &value)
 {
-    placeLeft(frame, line, QLatin1String(label) + value.toString());
+    placeLeft(frame, line, QLatin1String(label) + textOf(value));
 }
 
 void placeVersions(Frame &frame, const QVariantList &interface)
@@ -42,7 +43,7 @@ bool placeSingleInterface(Frame &frame, const char *title, const QVariantList &a
     if (answer.isEmpty())
         placeNotAvailable(frame);
     else if (answer.size() == 1)
-        placeMessage(frame, messageLine, answer.first().toString());
+        placeMessage(frame, messageLine, textOf(answer.first()));
     else
         placeVersions(frame, answer);
     return answer.size() > 1;

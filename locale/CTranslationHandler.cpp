@@ -1,6 +1,7 @@
 #include "locale/CTranslationHandler.h"
 
 #include "json/JsonReader.h"
+#include "json/Values.h"
 
 #include <QDebug>
 #include <QFile>
@@ -90,6 +91,6 @@ QVariantMap CTranslationHandler::databaseToGuiMap()
 QString translate(const QString &key)
 {
     const QVariantMap table = CTranslationHandler::instance().translationMap(QStringLiteral("en"));
-    const QString text = table.value(key).toString();
+    const QString text = textOf(table.value(key));
     return text.isEmpty() ? key : text;
 }

@@ -3,6 +3,7 @@
 
 #include "menu/RepeatedScreen.h"
 #include "json/Saturated.h"
+#include "json/Values.h"
 
 #include <cmath>
 
@@ -175,7 +176,7 @@ int TreeViewItemHandler::widestValue(const TreeViewItem &item) const
 {
     int widest = 0;
     for (int i = 0, count = valueCount(item); i < count; ++i)
-        widest = qMax(widest, valueAt(item, i).toString().size());
+        widest = qMax(widest, textOf(valueAt(item, i)).size());
     return widest;
 }
 
@@ -192,10 +193,10 @@ QVariant TreeViewItemHandler::databaseValueAt(const TreeViewItem &item, int i) c
 int TreeViewItemHandler::indexOfDatabaseValue(const TreeViewItem &item, const QVariant &value) const
 {
     const QScriptValue values = item.definition.property(propertyNames.dbValues);
-    const QString text = value.toString();
+    const QString text = textOf(value);
     for (int i = 0, count = valueCount(item); i < count; ++i) {
         const std::optional<QVariant> entry = entryAt(values, i);
-        if (entry && entry->toString() == text)
+        if (entry && textOf(*entry) == text)
             return i;
     }
     return -1;

@@ -13,7 +13,7 @@ bool isMeterButton(const QScriptValue &definition, const PropertyNames &names)
 bool isRepeatedScreen(const QScriptValue &definition, const PropertyNames &names)
 {
     const QScriptValue entries = definition.property(names.screens);
-    return entries.isValid() && entries.property(names.length).toInt32() == 0
+    return entries.isValid() && entries.property(names.length).toInteger() == 0
         && (isCompartmentButton(definition, names) || isMeterButton(definition, names));
 }
 

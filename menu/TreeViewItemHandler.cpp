@@ -3,6 +3,7 @@
 #include "menu/CountEntry.h"
 #include "menu/ScreenIndex.h"
 #include "menu/TreeBuilder.h"
+#include "json/Values.h"
 
 #include <QDebug>
 
@@ -13,10 +14,10 @@ constexpr int maximumRepetitions = 999;
 int repetitions(const QVariant &count, const char *what)
 {
     if (count.toDouble() > maximumRepetitions) {
-        qWarning() << "The backend's number of" << what << "is taken as none:" << count;
+        qWarning() << "The backend's number of" << what << "is taken as none:" << textOf(count);
         return 0;
     }
-    return count.toInt();
+    return integerOf(count);
 }
 
 QVariant noCount(const char *reason)

@@ -3,6 +3,7 @@
 #include "locale/CTranslationHandler.h"
 #include "menu/RepeatedScreen.h"
 #include "render/ForeignText.h"
+#include "json/Values.h"
 
 namespace {
 
@@ -99,7 +100,7 @@ private:
 
     QString valueText(const TreeViewItem &item)
     {
-        QString text = item.value.toString();
+        QString text = textOf(item.value);
         if (text.isEmpty())
             return text;
         const InputKind kind = handler.inputKind(item);
@@ -114,10 +115,10 @@ private:
             index = handler.indexOfDatabaseValue(item, item.value);
             note = QStringLiteral("hasDBValues: ") + QString::number(index);
         } else {
-            index = item.value.toInt();
+            index = integerOf(item.value);
             note = QStringLiteral("!!hasDBValues");
         }
-        return translate(handler.valueAt(item, index).toString());
+        return translate(textOf(handler.valueAt(item, index)));
     }
 
     const TreeViewItemHandler &handler;

@@ -4,6 +4,7 @@
 #include "render/ForeignText.h"
 #include "render/InputValidation.h"
 #include "json/Saturated.h"
+#include "json/Values.h"
 
 #include <functional>
 
@@ -59,11 +60,11 @@ Frame listSelector(ViewState &state, const TreeViewItemHandler &handler, const T
 {
     const int current = handler.hasDatabaseValues(item)
         ? handler.indexOfDatabaseValue(item, item.value)
-        : item.value.toInt();
+        : integerOf(item.value);
     return rollingList(state, widthFor(state, handler.widestValue(item)),
         QStringLiteral("Select new Value"), current, handler.valueCount(item),
         [&handler, &item](int i) {
-            const QString key = handler.valueAt(item, i).toString();
+            const QString key = textOf(handler.valueAt(item, i));
             return key.isEmpty() ? key : translate(key);
         });
 }
@@ -80,7 +81,7 @@ Frame booleanSelector(ViewState &state, const TreeViewItemHandler &, const TreeV
 {
     static const QStringList entries { QStringLiteral("false"), QStringLiteral("true") };
     return rollingList(state, plainWidth(state), QStringLiteral("Select new Value"),
-        item.value.toBool() ? 1 : 0, entries.size(), [](int i) { return entries.value(i); });
+        truthOf(item.value) ? 1 : 0, entries.size(), [](int i) { return entries.value(i); });
 }
 
 std::optional<QVariant> booleanValue(
@@ -106,7 +107,7 @@ Frame sliderDialog(ViewState &state, const TreeViewItemHandler &handler, const T
     state.step = handler.step(item);
     state.rangeLimit = saturated<int>(qint64(handler.maximum(item)) + 1);
     if (state.dialogValue < state.rangeMin)
-        state.dialogValue = item.value.toInt();
+        state.dialogValue = integerOf(item.value);
 
     const int width = plainWidth(state);
     QString bar(qMax(width - 2, 0), QLatin1Char('-'));
@@ -131,7 +132,7 @@ Frame editDialog(ViewState &state, const TreeViewItemHandler &handler, const Tre
 {
     state.rangeMin = 0;
     if (state.dialogValue < 0) {
-        state.editBuffer = item.value.toString();
+        state.editBuffer = textOf(item.value);
         state.dialogValue = state.editBuffer.size();
     }
     if (state.rangeLimit == 0)
