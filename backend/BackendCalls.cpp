@@ -38,7 +38,8 @@ QVariantList ScriptHelper::byteArray2VariantList(const QByteArray &bytes)
     const QString text = QString::fromUtf8(bytes);
     const std::optional<QVariant> value = parseJson(text.toUtf8());
     if (!value)
-        qDebug() << "byteArray2VariantList: parsing failed. Input was: " << text;
+        qDebug().noquote() << "byteArray2VariantList: parsing failed. Input was: "
+                           << QStringLiteral("\"%1\"").arg(text);
     return value.value_or(QVariant()).toList();
 }
 

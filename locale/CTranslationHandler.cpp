@@ -53,8 +53,9 @@ bool CTranslationHandler::loadTranslationMap(const QString &language)
     const QString path = QStringLiteral("%1/locales/%2/translation.json").arg(guiRoot, language);
     QVariantMap table;
     if (!loadJsonMap(path, table)) {
-        qDebug() << "CTranslationHandler::loadTranslationMap => Loading translation map for"
-                 << language << "failed" << path;
+        qDebug().noquote()
+            << "CTranslationHandler::loadTranslationMap => Loading translation map for"
+            << QStringLiteral("\"%1\" failed \"%2\"").arg(language, path);
         return false;
     }
     // The web interface writes "DD.MM.YYYY", the toolkit "dd.MM.yyyy".

@@ -12,7 +12,9 @@ void warnOf(const QScriptValue &error)
     QScriptValueIterator property(error);
     while (property.hasNext()) {
         property.next();
-        qWarning() << "scriptValues.isError())" << property.name() << property.value().toString();
+        qWarning().noquote()
+            << "scriptValues.isError())"
+            << QStringLiteral("\"%1\" \"%2\"").arg(property.name(), property.value().toString());
     }
 }
 
