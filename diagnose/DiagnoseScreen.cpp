@@ -16,13 +16,6 @@ void drawPages(Frame &frame, const PageLayout &layout, ViewState &state, const Q
     drawPagedScreen(frame, layout, state.listIndex, state.optionCount, answer);
 }
 
-void drawTag(Frame &frame, TreeViewItemHandler &handler)
-{
-    const QVariantList versions = handler.interfaceList(TagInterface, 0);
-    drawTagScreen(frame, versions,
-        versions.size() > 1 ? handler.interfaceList(TagInterface, 1) : QVariantList());
-}
-
 } // namespace
 
 Frame diagnoseScreen(ViewState &state, TreeViewItemHandler &handler, const TreeViewItem *item)
@@ -30,21 +23,23 @@ Frame diagnoseScreen(ViewState &state, TreeViewItemHandler &handler, const TreeV
     const InterfaceKind kind = item ? handler.diagnoseScreen(*item) : NoInterface;
     Frame frame = buildBox(state.termRows, state.termColumns, state.termRows);
     placeCentred(frame, state.termColumns, 0, QString::fromLatin1(wordsOf(kind).title), 0);
+    const QVariantList answer =
+        kind == LevelInterface ? QVariantList() : handler.interfaceList(kind, 0);
     switch (kind) {
     case SpdInterface:
-        drawPages(frame, spdLayout, state, handler.interfaceList(kind, 0));
+        drawPages(frame, spdLayout, state, answer);
         break;
     case IoInterface:
-        drawPages(frame, ioLayout, state, handler.interfaceList(kind, 0));
+        drawPages(frame, ioLayout, state, answer);
         break;
     case WetlegInterface:
-        drawPages(frame, wetlegLayout, state, handler.interfaceList(kind, 0));
+        drawPages(frame, wetlegLayout, state, answer);
         break;
     case TagInterface:
-        drawTag(frame, handler);
+        drawTagScreen(frame, answer, handler.interfaceList(kind, 1));
         break;
     case AsInterface:
-        drawAsScreen(frame, handler.interfaceList(kind, 0), state.statusText);
+        drawAsScreen(frame, answer, state.statusText);
         break;
     case LevelInterface:
         placeCentred(frame, frame.value(0).size(), 1, QStringLiteral("Not Implemented yet.."), 0);
