@@ -53,9 +53,21 @@ QDateTime dateTimeOf(const tm &fields)
         QTime(fields.tm_hour, fields.tm_min, fields.tm_sec) };
 }
 
+// Seconds since the epoch as the device's toolkit counts them: in 32 bits without a sign, all ones
+// for an invalid date-time and for what does not fit. Qt 5 deprecates its function, which also
+// takes a time that the process's zone skips for invalid.
+time_t toTime_t(const QDateTime &dateTime)
+{
+    constexpr qint64 none = 0xffffffff;
+    const qint64 seconds = dateTime.toMSecsSinceEpoch() / 1000;
+    const bool fits =
+        dateTime.date().isValid() && dateTime.time().isValid() && seconds >= 0 && seconds < none;
+    return time_t(fits ? seconds : none);
+}
+
 tm toZoneFields(const QDateTime &dateTime, const QString &zone, bool honourDst)
 {
-    const time_t seconds = dateTime.toSecsSinceEpoch();
+    const time_t seconds = toTime_t(dateTime);
     const ZoneSwitch zoneSwitch(zone);
     tm fields = {};
     localtime_r(&seconds, &fields);
@@ -81,7 +93,8 @@ tm fromZoneFields(const QDateTime &dateTime, const QString &zone, bool honourDst
 
 } // namespace
 
-// The results are made in the process's own zone again, where their fields are valid.
+// The results are made in the process's own zone again. Where that zone skips their hour, Qt calls
+// them invalid, but their date and time are right.
 QDateTime toZone(const QDateTime &dateTime, const QString &zone, bool honourDst)
 {
     return dateTimeOf(toZoneFields(dateTime, zone, honourDst));

@@ -32,6 +32,8 @@ void ZoneTimeTest::converts_data()
     row("to summer", "UTC0", false, "2024-07-01T12:00:00", true, "2024-07-01T14:00:00");
     // The input's own time, taken as standard time, which in summer is an hour later.
     row("to summer without", "UTC0", false, "2024-07-01T12:00:00", false, "2024-07-01T13:00:00");
+    row("before the epoch, which reads as the last second of 32 bits", "UTC0", false,
+        "1969-12-31T23:00:00", true, "2106-02-07T07:28:15");
     row("to summer from another zone", "EST5", false, "2024-07-01T08:00:00", true,
         "2024-07-01T15:00:00");
 }
