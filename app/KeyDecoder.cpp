@@ -52,7 +52,7 @@ std::optional<int> KeyDecoder::feed(int byte)
         keyBuffer += char(byte);
         return std::nullopt;
     }
-    // The byte behind "5" or "6" is judged anew: what is no "~" counts as if they were not there.
+    // The byte after "5" or "6" is decoded anew; unless it is "~", they have no effect.
     if (byte == '5' || byte == '6') {
         pendingKey = byte == '5' ? Qt::Key_PageUp : Qt::Key_PageDown;
         return std::nullopt;

@@ -1,7 +1,6 @@
 // What each key does in each view.
 #include "app/TerminalGui.h"
 
-#include "app/ResizeSignal.h"
 #include "render/ValueDialog.h"
 
 #include <QCoreApplication>
@@ -17,7 +16,6 @@ bool isQuit(int key)
 
 void TerminalGui::processKeyEvent(Qt::Key key)
 {
-    const ResizeSignal::Hold hold;
     state.requestedView = NoView;
     switch (state.currentView) {
     case StartView:

@@ -1,4 +1,4 @@
-// Where messages of the program go, so that none lands on the screen.
+// Where the program's messages go, so that none appears on the screen.
 #pragma once
 
 /// Sends all messages to standard error or, where that is a terminal, to the system log; a fatal

@@ -1,16 +1,13 @@
 #include "app/Session.h"
 
 #include "app/MessageLog.h"
-#include "app/ResizeSignal.h"
 #include "app/SignalHandlers.h"
 #include "app/TerminalGui.h"
 #include "app/TerminalOutput.h"
 #include "app/TerminalReader.h"
-#include "device/BackendTool.h"
 #include "locale/CTranslationHandler.h"
 
 #include <QCoreApplication>
-#include <QTimer>
 
 #include <Version.h>
 
@@ -48,7 +45,6 @@ int printUsage()
 
 int runConsole(const SessionOptions &options)
 {
-    BackendTool::setSignalMask(ResizeSignal::hold());
     installRestoringHandlers();
     CTranslationHandler::setInstanceRoot(options.paths.webRoot);
     auto gui = std::make_unique<TerminalGui>(options.paths, writeToTerminal);
@@ -60,17 +56,8 @@ int runConsole(const SessionOptions &options)
         reader.get(), &TerminalReader::newKeyEvent, gui.get(), &TerminalGui::processKeyEvent);
     QObject::connect(reader.get(), &TerminalReader::timeout, gui.get(), &TerminalGui::closeGui);
     gui->initTerminal();
-    // A SIGINT from before the loop runs would be lost on it, and a resize must not come upon the
-    // loop while it sets itself up.
-    QTimer::singleShot(0, gui.get(), [] {
-        if (isSessionEnding())
-            QCoreApplication::quit();
-        ResizeSignal::open();
-    });
-    // The session has no other end than a good one; the loop itself reports a failure when a SIGINT
-    // comes upon its first steps.
+    // exec() returns an error if quit() arrives while it starts; the session still ended well.
     QCoreApplication::exec();
-    ResizeSignal::hold();
     reader.reset();
     const bool toShell = gui->exitToShell();
     gui.reset();

@@ -3,6 +3,8 @@
 #include "app/TerminalGui.h"
 #include "app/TerminalMode.h"
 #include "device/BackendTool.h"
+#include "device/SignalBlocker.h"
+#include "render/Screen.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -25,15 +27,15 @@ pthread_t sessionThread;
 constexpr std::array<int, 10> endingSignals = { SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGSEGV, SIGABRT,
     SIGBUS, SIGFPE, SIGILL, SIGSYS };
 
-// A broken stack is one of the reasons to get here, so these handlers run on one of their own.
+// A stack overflow is one of the reasons to get here, so these handlers run on their own stack.
 std::array<char, 65536> handlerStack;
 
-// The actions from before the console's, to which a fatal signal is handed on.
+// The actions before the console's, under which a fatal signal takes effect.
 std::array<struct sigaction, NSIG> formerActions;
 
-// The script engine has a thread for its memory. A signal that the system gives to that one goes on
-// to the session's, which waits for it or holds it back.
-bool isForwarded(int number)
+// The script engine has a thread of its own, to which the kernel may deliver a signal. Forwards it
+// to the session's thread; false on that thread itself.
+bool forwardToSession(int number)
 {
     if (pthread_equal(pthread_self(), sessionThread))
         return false;
@@ -41,6 +43,7 @@ bool isForwarded(int number)
     return true;
 }
 
+// No SA_RESTART: a blocked read or write must return and notice the end of the session.
 bool setHandler(int number, void (*handler)(int))
 {
     struct sigaction action = {};
@@ -58,7 +61,7 @@ bool isIgnored(int number)
 
 template <size_t size> void writeNow(const char (&text)[size]) noexcept
 {
-    // There is nobody left to tell about a failure.
+    // Nobody is left to whom a failure could be reported.
     [[maybe_unused]] const ssize_t written = write(STDOUT_FILENO, text, size - 1);
 }
 
@@ -73,19 +76,19 @@ void restoreAndDie(int number, siginfo_t *info, void *)
     leaveTerminal();
     BackendTool::killRunning();
     sigaction(number, &formerActions[size_t(number)], nullptr);
-    // The instruction that failed fails again and shows the true cause; what was sent is sent
-    // again.
+    // A fault recurs when the instruction is retried under the former action; a sent signal must
+    // be raised again.
     const bool isFault = info->si_code > 0 && info->si_code != SI_KERNEL;
     if (!isFault)
         raise(number);
 }
 
-// The session has not come to its end by itself: a script or a line is stuck.
+// The session does not end by itself: a script does not return, or the terminal takes no output.
 void endNow(int)
 {
     tcflush(STDOUT_FILENO, TCOFLUSH);
     TerminalMode::restore();
-    writeNow("\x1b[0m\n\x1b[?25h\n\x1b[2J\n");
+    writeNow(leaveSequence);
     BackendTool::killRunning();
     _exit(EXIT_SUCCESS);
 }
@@ -102,7 +105,7 @@ void endSession()
 
 void onSignal(int number)
 {
-    if (isForwarded(number))
+    if (forwardToSession(number))
         return;
     switch (number) {
     case SIGINT:
@@ -112,6 +115,7 @@ void onSignal(int number)
         terminalGui.load()->resizeTerminal();
         break;
     default:
+        // A fixed text, its misspelling included.
         qDebug() << "Signal No." << number << " reived: no action defined!";
         break;
     }
@@ -119,7 +123,7 @@ void onSignal(int number)
 
 void onContinue(int number)
 {
-    if (isForwarded(number))
+    if (forwardToSession(number))
         return;
     stopped = false;
     TerminalMode::resume();
@@ -128,7 +132,7 @@ void onContinue(int number)
 
 void onStop(int number)
 {
-    if (isForwarded(number))
+    if (forwardToSession(number))
         return;
     leaveTerminal();
     stopped = true;
@@ -139,12 +143,12 @@ void onStop(int number)
     raise(SIGTSTP);
     pthread_sigmask(SIG_UNBLOCK, &stop, nullptr);
     setHandler(SIGTSTP, onStop);
-    // Without a shell that could continue it, the system does not stop the program at all.
+    // In an orphaned process group SIGTSTP is discarded, so no SIGCONT will follow.
     if (stopped)
         onContinue(SIGCONT);
 }
 
-// No call is resumed behind these handlers: one that waits is to notice the end of the session.
+// Fatal with a fixed text, in which `line` is no current line of the source.
 void installHandler(int number, int line)
 {
     if (!setHandler(number, onSignal))
@@ -161,6 +165,10 @@ bool isSessionEnding() noexcept
 
 void installRestoringHandlers()
 {
+    const sigset_t resize = signalSet({ SIGWINCH });
+    sigset_t callersMask;
+    pthread_sigmask(SIG_BLOCK, &resize, &callersMask);
+    BackendTool::setSignalMask(callersMask);
     sessionThread = pthread_self();
     stack_t stack = {};
     stack.ss_sp = handlerStack.data();
@@ -175,7 +183,7 @@ void installRestoringHandlers()
         sigemptyset(&action.sa_mask);
         sigaction(number, &action, &formerActions[size_t(number)]);
     }
-    // A message to a reader that has gone is lost, not the session.
+    // A message whose reader has gone is lost, but does not end the session.
     setHandler(SIGPIPE, SIG_IGN);
 }
 

@@ -1,6 +1,5 @@
 #include "app/TerminalGui.h"
 
-#include "app/ResizeSignal.h"
 #include "diagnose/DiagnoseScreen.h"
 #include "render/Bars.h"
 #include "render/FrameComposer.h"
@@ -75,7 +74,6 @@ void TerminalGui::closeGui()
 
 void TerminalGui::refreshView()
 {
-    const ResizeSignal::Hold hold;
     if (state.requestedView != NoView && state.requestedView != state.currentView)
         prepareView();
     drawMenu();

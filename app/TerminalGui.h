@@ -20,23 +20,24 @@ public:
     /// Restores the terminal and leaves it cleared.
     ~TerminalGui() override;
 
-    /// Takes over the size of the terminal, 80 x 24 when it reports none.
+    /// Takes over the size of the terminal, 80 x 24 when it does not report it.
     void updateWindowSize();
 
-    /// Takes over a requested view and draws the current one.
+    /// Switches to the requested view, if any, and draws the current one.
     void refreshView();
 
 public slots:
     /// Clears the screen, asks for the backend's version and draws everything.
     void initTerminal();
 
-    /// Does what a key is for in the current view, and redraws.
+    /// Acts on a key as the current view defines, and redraws.
     void processKeyEvent(Qt::Key key);
 
-    /// Calls `resizeTerminal` half a second later.
+    /// Calls `resizeTerminal` half a second later, or at the next key after that: the session's
+    /// wait for input ignores this timer. Nothing calls it.
     void prepareResize();
 
-    /// Takes over a new size of the terminal and draws everything.
+    /// Reads the size of the terminal anew and draws everything.
     void resizeTerminal();
 
     /// Asks the backend tool for its version. Always false.

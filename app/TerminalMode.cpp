@@ -6,7 +6,7 @@
 
 namespace {
 
-// What a signal handler finds when it interrupts the program anywhere.
+// For signal handlers.
 std::atomic<const termios *> saved(nullptr);
 std::atomic<const termios *> working(nullptr);
 

@@ -3,8 +3,8 @@
 
 #include <termios.h>
 
-/// Switches the terminal to single keys without echo, and back when it is destroyed. On anything
-/// but a terminal it has no effect. There is one at a time.
+/// Switches the terminal to single keys without echo, and back when it is destroyed. Without effect
+/// on anything but a terminal. At most one exists at a time.
 class TerminalMode {
 public:
     TerminalMode();
@@ -12,12 +12,11 @@ public:
     TerminalMode(const TerminalMode &) = delete;
     TerminalMode &operator=(const TerminalMode &) = delete;
 
-    /// Gives the terminal its former attributes back; safe in a signal handler, and to be called
-    /// more than once.
+    /// Restores the former attributes. Async-signal-safe; a second call changes nothing.
     static void restore() noexcept;
 
-    /// Switches again after `restore`; safe in a signal handler. Without effect when there is no
-    /// TerminalMode.
+    /// Switches again after `restore`. Async-signal-safe; without effect while no TerminalMode
+    /// exists.
     static void resume() noexcept;
 
 private:

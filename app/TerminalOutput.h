@@ -1,8 +1,8 @@
-// The door through which bytes reach the terminal.
+// Writing to the terminal.
 #pragma once
 
 #include <QByteArray>
 
-/// Writes all of `bytes` to standard output, waiting as long as it takes. What a closed line does
-/// not take is dropped.
+/// Writes all of `bytes` to standard output, however long that takes. On an error, as after a
+/// hang-up, the rest is dropped.
 void writeToTerminal(const QByteArray &bytes);

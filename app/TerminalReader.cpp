@@ -1,19 +1,27 @@
 #include "app/TerminalReader.h"
 
 #include "app/KeyDecoder.h"
-#include "app/ResizeSignal.h"
 #include "app/SignalHandlers.h"
+
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
 
 #include <cerrno>
 #include <cstdio>
+
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
 
 TerminalReader::TerminalReader(int idleMs)
     : stdinNotifier(new QSocketNotifier(fileno(stdin), QSocketNotifier::Read, this))
     , idleMs(idleMs)
 {
-    // With a buffer of its own, reading allocates nothing that a resize could interrupt.
-    static char buffer[BUFSIZ];
+    // Bytes that were read ahead would not make standard input readable again.
+    static char buffer[1];
     setvbuf(stdin, buffer, _IOFBF, sizeof buffer);
+    pthread_sigmask(SIG_SETMASK, nullptr, &waitMask);
+    sigdelset(&waitMask, SIGWINCH);
     connect(&idleTimer, &QTimer::timeout, this, &TerminalReader::timeout);
     idleTimer.setTimerType(Qt::PreciseTimer);
     idleTimer.start(idleMs);
@@ -22,11 +30,12 @@ TerminalReader::TerminalReader(int idleMs)
 void TerminalReader::init()
 {
     connect(stdinNotifier, SIGNAL(activated(int)), SLOT(readChar(int)));
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+        &TerminalReader::waitInLoop);
 }
 
 void TerminalReader::readChar(int)
 {
-    const ResizeSignal::Hold hold;
     idleTimer.start(idleMs);
     const std::optional<int> key = readKey();
     if (!key)
@@ -36,12 +45,35 @@ void TerminalReader::readChar(int)
     emit newKeyEvent(static_cast<Qt::Key>(*key));
 }
 
+// The event loop waits here, because it allocates memory right before and after its own wait.
+void TerminalReader::waitInLoop()
+{
+    bool isOver = false;
+    while (!isOver && !isSessionEnding())
+        isOver = waitForInput(idleTimer.remainingTime());
+    // quit() before exec() has no effect, so an earlier SIGINT is acted on here.
+    if (isSessionEnding())
+        QCoreApplication::quit();
+}
+
+// Waits until standard input is readable or `timeoutMs` is over, without limit if that is negative.
+// False when a signal came instead.
+bool TerminalReader::waitForInput(int timeoutMs)
+{
+    pollfd input = { STDIN_FILENO, POLLIN, 0 };
+    const timespec timeout = { timeoutMs / 1000, timeoutMs % 1000 * 1000000L };
+    const bool isWatched = stdinNotifier->isEnabled();
+    const int result =
+        ppoll(&input, isWatched ? 1 : 0, timeoutMs < 0 ? nullptr : &timeout, &waitMask);
+    return result >= 0 || errno != EINTR;
+}
+
 // Nothing when the session is ending.
 std::optional<int> TerminalReader::readKey()
 {
-    const ResizeSignal::Window window;
     KeyDecoder decoder;
     std::optional<int> key;
+    arrivedBytes = 0;
     while (!key) {
         const std::optional<int> byte = readByte();
         if (!byte)
@@ -54,13 +86,18 @@ std::optional<int> TerminalReader::readKey()
 // The next byte or EOF; nothing when the session is ending.
 std::optional<int> TerminalReader::readByte()
 {
-    for (;;) {
-        if (isSessionEnding())
-            return std::nullopt;
+    while (!isSessionEnding()) {
+        // A read that blocks would keep SIGWINCH blocked.
+        if (arrivedBytes <= 0)
+            ioctl(STDIN_FILENO, FIONREAD, &arrivedBytes);
+        if (arrivedBytes <= 0 && !waitForInput(-1))
+            continue;
+        --arrivedBytes;
         errno = 0;
         const int byte = getc(stdin);
-        if (byte != EOF || errno != EINTR)
+        if (byte != EOF || (errno != EINTR && errno != EAGAIN))
             return byte;
         clearerr(stdin);
     }
+    return std::nullopt;
 }

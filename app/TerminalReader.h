@@ -5,10 +5,14 @@
 #include <QSocketNotifier>
 #include <QTimer>
 
+#include <csignal>
 #include <optional>
 
-/// Emits one key each time standard input becomes readable. Bytes of further keys that came with it
-/// wait in the buffer of standard input until it becomes readable again.
+/// Emits one key each time standard input becomes readable. Bytes of further keys stay with the
+/// terminal, which thus remains readable until the last of them is taken.
+///
+/// SIGWINCH, which the session blocks, is open only while the reader waits for input: its handler
+/// redraws, so it must interrupt neither an allocation nor a redraw.
 class TerminalReader : public QObject {
     Q_OBJECT
 public:
@@ -31,10 +35,14 @@ public slots:
     void init();
 
 private:
+    void waitInLoop();
+    bool waitForInput(int timeoutMs);
     std::optional<int> readKey();
-    static std::optional<int> readByte();
+    std::optional<int> readByte();
 
     QSocketNotifier *const stdinNotifier;
-    QTimer idleTimer;
+    QTimer idleTimer; ///< the only timer that ends the wait of the event loop
     const int idleMs;
+    sigset_t waitMask; ///< the mask of the session without SIGWINCH
+    int arrivedBytes = 0; ///< known to be readable; 0 or less when none is known
 };

@@ -12,20 +12,19 @@ namespace BackendTool {
 /// How long a tool may take, in milliseconds.
 constexpr int patienceMs = 30000;
 
-/// Runs `program` with `arguments`, one argv entry each and no shell, and returns what it printed
-/// on standard output. A tool that cannot be started prints nothing; one that still runs after
-/// `timeoutMs` is killed together with its own children, and what it printed until then is
-/// returned. More than 16 MiB of output are taken as none, and so is the output of a tool that
-/// `abandon` cut short.
+/// Runs `program` with `arguments`, one argv entry each and no shell, and returns its standard
+/// output; nothing when it cannot be started. A tool that still runs after `timeoutMs` is killed
+/// with its process group, and its output until then is returned. More than 16 MiB of output count
+/// as none, and so does the output of a tool that `abandon` cut off.
 QByteArray run(const QString &program, const QStringList &arguments, int timeoutMs = patienceMs);
 
-/// From now on no tool is started, and a running one is killed at once. Safe in a signal handler.
+/// From now on no tool is started, and a running one is killed at once. Async-signal-safe.
 void abandon() noexcept;
 
-/// Kills the running tool, if any, without waiting for it. Safe in a signal handler.
+/// Kills the running tool, if any, without waiting for its end. Async-signal-safe.
 void killRunning() noexcept;
 
-/// The signal mask that tools are started with; as long as none is set they inherit the console's.
+/// Sets the signal mask that tools are started with; by default it is the console's own.
 void setSignalMask(const sigset_t &mask);
 
 } // namespace BackendTool

@@ -1,10 +1,10 @@
 #include "device/SignalBlocker.h"
 
-sigset_t signalSet(std::initializer_list<int> signals)
+sigset_t signalSet(std::initializer_list<int> numbers)
 {
     sigset_t set;
     sigemptyset(&set);
-    for (const int number : signals)
+    for (const int number : numbers)
         sigaddset(&set, number);
     return set;
 }
@@ -16,9 +16,9 @@ sigset_t allSignals()
     return set;
 }
 
-SignalBlocker::SignalBlocker(const sigset_t &signals)
+SignalBlocker::SignalBlocker(const sigset_t &set)
 {
-    pthread_sigmask(SIG_BLOCK, &signals, &former);
+    pthread_sigmask(SIG_BLOCK, &set, &former);
 }
 
 SignalBlocker::~SignalBlocker()

@@ -5,7 +5,7 @@
 #include <initializer_list>
 
 /// The set of the given signals.
-sigset_t signalSet(std::initializer_list<int> signals);
+sigset_t signalSet(std::initializer_list<int> numbers);
 
 /// The set of all signals.
 sigset_t allSignals();
@@ -15,7 +15,7 @@ sigset_t allSignals();
 /// there would let the handler interrupt itself.
 class SignalBlocker {
 public:
-    explicit SignalBlocker(const sigset_t &signals);
+    explicit SignalBlocker(const sigset_t &set);
     ~SignalBlocker();
     SignalBlocker(const SignalBlocker &) = delete;
     SignalBlocker &operator=(const SignalBlocker &) = delete;

@@ -45,7 +45,7 @@ void Screen::show(const Frame &frame, int rows, const CursorPosition &cursor)
 
 void Screen::leave()
 {
-    pending += "\x1b[0m\n\x1b[?25h\n\x1b[2J\n";
+    pending += leaveSequence;
     flush();
 }
 

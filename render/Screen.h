@@ -14,6 +14,9 @@ struct CursorPosition {
     int column;
 };
 
+/// Leaves the terminal as programs expect it: no colours, text cursor visible, cleared.
+constexpr char leaveSequence[] = "\x1b[0m\n\x1b[?25h\n\x1b[2J\n";
+
 /// Remembers the frame that the terminal shows and writes only the rows that differ from it. All
 /// bytes leave through the sink, one call a flush; nothing is flushed when there is nothing to say.
 class Screen {
@@ -36,7 +39,7 @@ public:
     /// visible text cursor ends up at `cursor`.
     void show(const Frame &frame, int rows, const CursorPosition &cursor);
 
-    /// Leaves the terminal as programs expect it: no colours, text cursor visible, cleared.
+    /// Writes the leave sequence.
     void leave();
 
 private:

@@ -117,6 +117,11 @@ bool PtyProcess::isAtRest()
     return isWaiting() && !hasChildren(child) && readProc(child, "schedstat") == before;
 }
 
+void PtyProcess::setInputBlocking(bool blocking)
+{
+    fcntl(slave, F_SETFL, blocking ? 0 : O_NONBLOCK);
+}
+
 void PtyProcess::setSize(int rows, int columns)
 {
     const winsize size = { ushort(rows), ushort(columns), 0, 0 };

@@ -42,6 +42,8 @@ public:
     /// next input, signal or timer; also when it has ended.
     bool isAtRest();
 
+    /// Sets or clears O_NONBLOCK on the terminal, as a program before may have left it.
+    void setInputBlocking(bool blocking);
     /// Changes the size of the terminal, which sends SIGWINCH.
     void setSize(int rows, int columns);
     /// Attributes of the terminal, also after the end of the process.

@@ -75,7 +75,10 @@ private slots:
     void goneReader();
     void stopAndContinue();
     void resizeStorm();
-    void burstOfKeys();
+    void keysTogether_data();
+    void keysTogether();
+    void keyInPieces_data();
+    void keyInPieces();
     void foreignText();
     void steadyMemory();
 };
@@ -306,16 +309,68 @@ void SessionTest::resizeStorm()
     QVERIFY(session.waitFor([&] { return session.terminal().screen() == before; }));
 }
 
-void SessionTest::burstOfKeys()
+void SessionTest::keysTogether_data()
 {
+    QTest::addColumn<QByteArray>("tool");
+    QTest::addColumn<QByteArray>("keys");
+    QTest::addColumn<QString>("call"); // none: the session ends
+    const QByteArray edit = keysToEditField.join();
+    QTest::newRow("there and back") << goodTool << Key::down + Key::down + Key::up + Key::up + "\n"
+                                    << QStringLiteral("get|truck");
+    QTest::newRow("200 keys") << goodTool << (Key::down + Key::up).repeated(100) + "\n"
+                              << QStringLiteral("get|truck");
+    QTest::newRow("while the tool runs") << "sleep 0.1; " + goodTool << edit + "Eva\n"
+                                         << QStringLiteral("set|truck|[\"EmmaEva\",true]");
+    QTest::newRow("paste") << goodTool << edit + "5~O\n"
+                           << QStringLiteral("set|truck|[\"Emma5~O\",true]");
+    QTest::newRow("with Q") << goodTool << Key::down + 'Q' + edit << QString();
+    QTest::newRow("with Ctrl-C") << goodTool << edit + Key::interrupt + edit << QString();
+}
+
+void SessionTest::keysTogether()
+{
+    QFETCH(QByteArray, tool);
+    QFETCH(QByteArray, keys);
+    QFETCH(QString, call);
+    Session session;
+    session.device.setTool(tool);
+    QVERIFY(session.start() && session.send(keys));
+    QStringList calls;
+    if (call.isEmpty())
+        QCOMPARE(session.waitForExit(), endedWell);
+    else
+        QVERIFY(
+            session.waitFor([&] { return (calls += session.device.takeCalls()).contains(call); }));
+}
+
+void SessionTest::keyInPieces_data()
+{
+    QTest::addColumn<bool>("blocking");
+    QTest::newRow("blocking input") << true;
+    QTest::newRow("non-blocking input") << false;
+}
+
+void SessionTest::keyInPieces()
+{
+    QFETCH(bool, blocking);
     Session session;
     QVERIFY(session.start());
-    const auto isSelected = [&session](int row) {
-        return session.terminal().backgrounds(row) == QString(80, QLatin1Char('m'));
-    };
-    // One key is taken each time input arrives; what came with it waits for the next time.
-    QVERIFY(session.press({ Key::down + Key::down }) && isSelected(2));
-    QVERIFY(session.press({ "x" }) && isSelected(3));
+    session.setInputBlocking(blocking);
+    for (const QByteArray &key : { Key::down, Key::pageUp, Key::escape }) {
+        for (int split = 1; split < key.size(); ++split) {
+            QVERIFY(session.press({ key.left(split) }));
+            // The console waits for the rest without taking processor time, and redraws meanwhile.
+            QVERIFY(session.isAtRest());
+            session.resize(30, 70 + split);
+            QVERIFY(session.waitFor([&] {
+                return session.terminal().screen().value(29).contains(QLatin1String("Drav"));
+            }));
+            session.resize(24, 80);
+            QVERIFY(session.waitForRest() && session.press({ key.mid(split) }));
+        }
+    }
+    QVERIFY(session.press({ Key::enter }) && session.waitForRest());
+    QVERIFY(session.device.takeCalls().contains(QStringLiteral("get|truck")));
 }
 
 void SessionTest::foreignText()
