@@ -31,7 +31,7 @@ QString TranscriptPlayer::play(const TranscriptEntry &entry)
 
 QString TranscriptPlayer::setAnswer(const QString &line)
 {
-    static const QRegularExpression form(QStringLiteral("^(.*) => (.*)$"));
+    static const QRegularExpression form(QStringLiteral("^(.*) =>(?: (.*))?$"));
     const QRegularExpressionMatch found = form.match(line);
     if (!found.hasMatch())
         return QStringLiteral("an answer without =>");
@@ -44,25 +44,30 @@ QString TranscriptPlayer::setAnswer(const QString &line)
 
 QString TranscriptPlayer::doStep(const QString &action)
 {
-    static const QRegularExpression sized(
-        QStringLiteral("^(start|start demo|resize) (\\d+)x(\\d+)$"));
-    const QRegularExpressionMatch found = sized.match(action);
+    static const QRegularExpression form(
+        QStringLiteral("^(?:(start demo|start|resize) (\\d+)x(\\d+) ?)?(.*)$"));
+    const QRegularExpressionMatch found = form.match(action);
+    const QString verb = found.captured(1);
     const int columns = found.captured(2).toInt();
     const int rows = found.captured(3).toInt();
-    if (found.captured(1).startsWith(QLatin1String("start")))
-        return start(found.captured(1).endsWith(QLatin1String("demo")), rows, columns);
-    const auto keys = found.hasMatch() ? QByteArrayList() : keysFromText(action);
-    if (!session || !keys)
+    const std::optional<QByteArrayList> keys = keysFromText(found.captured(4));
+    const bool isStart = verb.startsWith(QLatin1String("start"));
+    if (!keys || (!session && !isStart))
         return QStringLiteral("unknown words, or nothing was started");
-    session->mark();
-    if (found.hasMatch())
+    if (isStart && !start(verb.endsWith(QLatin1String("demo")), rows, columns))
+        return QStringLiteral("the console does not start");
+    if (!isStart)
+        session->mark();
+    if (verb == QLatin1String("resize"))
         session->resize(rows, columns);
-    const bool isDone = std::all_of(keys->begin(), keys->end(),
-        [this](const QByteArray &key) { return session->press(key) && session->waitForRest(); });
-    return isDone && session->waitForRest() ? QString() : QStringLiteral("the console hangs");
+    const bool isDone = session->waitForRest()
+        && std::all_of(keys->begin(), keys->end(), [this](const QByteArray &key) {
+               return session->press(key) && session->waitForRest();
+           });
+    return isDone ? QString() : QStringLiteral("the console hangs");
 }
 
-QString TranscriptPlayer::start(bool onDemo, int rows, int columns)
+bool TranscriptPlayer::start(bool onDemo, int rows, int columns)
 {
     session.reset();
     demo.reset(onDemo ? new QTemporaryDir : nullptr);
@@ -76,10 +81,7 @@ QString TranscriptPlayer::start(bool onDemo, int rows, int columns)
         : session->start(QStringLiteral(TEST_SESSION),
             { paths.webRoot, paths.settingsScript, paths.backendTool, QStringLiteral("180000") },
             rows, columns);
-    const bool isDrawn = isStarted
-        && session->waitFor([this] { return !session->bytesSinceMark().isEmpty(); })
-        && session->waitForRest();
-    return isDrawn ? QString() : QStringLiteral("the console does not start");
+    return isStarted && session->waitFor([this] { return !session->bytesSinceMark().isEmpty(); });
 }
 
 QStringList TranscriptPlayer::outcome()

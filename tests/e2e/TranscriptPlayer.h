@@ -19,7 +19,7 @@ public:
 private:
     QString setAnswer(const QString &line);
     QString doStep(const QString &action);
-    QString start(bool onDemo, int rows, int columns);
+    bool start(bool onDemo, int rows, int columns);
     QStringList takeCalls();
 
     FakeDevice device;
