@@ -9,13 +9,13 @@ namespace {
 struct Picture {
     const char *name;
     const char *path; ///< labels of what is opened, from the top of the menu down
-    const char *keys; ///< what is pressed then, names and characters between blanks
+    const char *keys; ///< what is pressed then, as `keysFromText` takes it
     const char *awaited; ///< a text that is on the screen when all is drawn
 };
 
 constexpr Picture pictures[] = {
     { "menu", "Compartment status/Compartment 2", "", "Bottom valve" },
-    { "edit-refused", "Parameters/Limits/Flow in", "Backspace Backspace 9 9 9", "Enter new Value" },
+    { "edit-refused", "Parameters/Limits/Flow in", R"(Backspace*2 "999")", "Enter new Value" },
     { "list", "Loading plans/Loading rules/Loading sequence", "", "Select new Value" },
     { "spd", "Service/Diagnose/SPD", "", "SPD IF: 1/4" },
 };
@@ -25,8 +25,7 @@ bool take(const Picture &picture, const QString &folder)
     DemoSession session;
     const bool isShown = session.run(QStringLiteral(DEMO))
         && session.open(QString::fromLatin1(picture.path))
-        && session.actAll(
-            QString::fromLatin1(picture.keys).split(QLatin1Char(' '), Qt::SkipEmptyParts))
+        && session.pressAll(QString::fromLatin1(picture.keys))
         && session.waitForText(QString::fromLatin1(picture.awaited));
     QFile file(QStringLiteral("%1/%2.svg").arg(folder, QLatin1String(picture.name)));
     const QByteArray svg = svgOf(session.terminal());

@@ -1,7 +1,7 @@
 #include "tests/e2e/TranscriptPlayer.h"
 
 #include "terminal/KeyText.h"
-#include "tests/e2e/ScreenNotation.h"
+#include "tests/support/ScreenNotation.h"
 #include "json/JsonReader.h"
 
 #include <QFile>

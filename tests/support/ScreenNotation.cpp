@@ -1,4 +1,4 @@
-#include "tests/e2e/ScreenNotation.h"
+#include "tests/support/ScreenNotation.h"
 
 #include <Version.h>
 
