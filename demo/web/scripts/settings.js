@@ -2,9 +2,9 @@
  * Pages and fields of the truck controller's settings.
  *
  * Settings.settings[0] is the start page. A page lists its entries in "screens": link(css) leads to
- * the page with that css, everything else is a field of the page itself. "ajax-read" delivers one
- * result per entry that has a value (all but separators and buttons), "ajax-write" takes them back
- * in the same order.
+ * the page with that css, everything else is a field of the page itself. "ajax-read" returns one
+ * result per entry that has a value (all but separators and buttons), "ajax-write" takes them in the
+ * same order.
  *
  * Pages for a compartment or a meter have a list page with empty "screens" and a type beginning
  * with "compBtn" or "meterBtn"; what belongs to a single one is on the page css + "ModifyDo".
@@ -12,9 +12,9 @@
  * remote       0 not on remote consoles, 1 shown, 2 shown but not changeable there
  * accessLvl    4 always, 6 only with the electronic seal open, 9 factory only
  * validation   C<n> text, N<n> whole number, N<n>.<m> decimal number, DATE.<format>, GPS, IPV4, FEAT
- * checkIgnore  what dravikon-menu-check finds here and is meant; consoles and browsers pass it over
- * dbValues     what the database stores for the entry of "values" at the same place; without it the
- *              database stores the place itself
+ * checkIgnore  findings of dravikon-menu-check that are intended; consoles and browsers ignore it
+ * dbValues     what the database stores for the entry of "values" at the same position; without it
+ *              the database stores the position itself
  */
 
 var PRODUCTS = {
@@ -86,7 +86,7 @@ function dropdown(i18n, values, dbValues) {
     return field;
 }
 
-/* The place in the list is the number itself, so the number is what the page shows. */
+/* The position in the list is the number itself, so the page shows the number. */
 function counter(i18n, values) {
     return new Field("dropdown", i18n, { values: values, integer: true });
 }
@@ -103,7 +103,7 @@ function number(i18n, digits, lowest, highest) {
     return edit(i18n, "N" + digits, { range: [lowest, highest] });
 }
 
-/* A rule of the browser's that consoles do not know: they show the value and refuse any other. */
+/* A rule that only browsers know: consoles show the value and accept no other. */
 function browserEdit(i18n, validation, options) {
     return edit(i18n, validation, options).checkIgnoring("dead-rule");
 }
@@ -595,7 +595,7 @@ Settings.add(
         slider("outputs_pump_speed", 0, 100, 10).access(6)
     ], readsAndWrites("service_outputs")),
 
-    /* Tests are started with the buttons; the selection above them is the browser's alone. */
+    /* The buttons start the tests; the selection above them is for browsers only. */
     page("btnServiceFunctions", [
         dropdown("functions_test", ["test_lamps", "test_valves", "test_printer"]),
         onOff("functions_repeat"),
