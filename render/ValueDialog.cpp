@@ -69,25 +69,11 @@ Frame listSelector(ViewState &state, const TreeViewItemHandler &handler, const T
         });
 }
 
-std::optional<QVariant> listedValue(
-    const ViewState &state, const TreeViewItemHandler &handler, const TreeViewItem &item)
-{
-    if (handler.hasDatabaseValues(item))
-        return handler.databaseValueAt(item, state.listIndex);
-    return state.listIndex;
-}
-
-Frame booleanSelector(ViewState &state, const TreeViewItemHandler &, const TreeViewItem &item)
+Frame booleanSelector(ViewState &state, const TreeViewItem &item)
 {
     static const QStringList entries { QStringLiteral("false"), QStringLiteral("true") };
     return rollingList(state, plainWidth(state), QStringLiteral("Select new Value"),
         truthOf(item.value) ? 1 : 0, entries.size(), [](int i) { return entries.value(i); });
-}
-
-std::optional<QVariant> booleanValue(
-    const ViewState &state, const TreeViewItemHandler &, const TreeViewItem &)
-{
-    return state.listIndex != 0;
 }
 
 // The place of the mark on a bar of `barLength` characters; `barLength` is right after the bar.
@@ -121,12 +107,6 @@ Frame sliderDialog(ViewState &state, const TreeViewItemHandler &handler, const T
     return box;
 }
 
-std::optional<QVariant> sliderValue(
-    const ViewState &state, const TreeViewItemHandler &, const TreeViewItem &)
-{
-    return state.dialogValue;
-}
-
 // What can be typed is not `fieldLength`, by which the cursor is placed: it asks for no range.
 Frame editDialog(ViewState &state, const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
@@ -146,42 +126,27 @@ Frame editDialog(ViewState &state, const TreeViewItemHandler &handler, const Tre
     return box;
 }
 
-std::optional<QVariant> typedText(
+// Nothing when the item refuses what was typed, or has no dialog.
+std::optional<QVariant> chosenValue(
     const ViewState &state, const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
-    if (!validateInput(handler, item, state.editBuffer))
-        return std::nullopt;
-    return state.editBuffer;
-}
-
-// What the dialog of an input kind is made of; nothing where the kind has none.
-struct Dialog {
-    Frame (*draw)(ViewState &, const TreeViewItemHandler &, const TreeViewItem &) = nullptr;
-    /// The value that is chosen in it; nothing when the item refuses that.
-    std::optional<QVariant> (*value)(
-        const ViewState &, const TreeViewItemHandler &, const TreeViewItem &) = nullptr;
-};
-
-Dialog dialogOf(InputKind kind)
-{
-    switch (kind) {
+    switch (handler.inputKind(item)) {
     case DropdownInput:
-        return { listSelector, listedValue };
+        if (handler.hasDatabaseValues(item))
+            return handler.databaseValueAt(item, state.listIndex);
+        return state.listIndex;
     case BooleanInput:
-        return { booleanSelector, booleanValue };
+        return state.listIndex != 0;
     case SliderInput:
-        return { sliderDialog, sliderValue };
+        return state.dialogValue;
     case EditInput:
-        return { editDialog, typedText };
-    case SeparatorInput:
-    case ButtonInput:
-    case LabelInput:
-    case SelectLabelInput:
-    case PlainInput:
-    case NoInput:
+        if (validateInput(handler, item, state.editBuffer))
+            return state.editBuffer;
+        break;
+    default:
         break;
     }
-    return {};
+    return std::nullopt;
 }
 
 int within(int lowest, int limit, qint64 index)
@@ -215,16 +180,30 @@ Frame startMenu(ViewState &state)
 
 Frame valueDialog(ViewState &state, const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
-    const Dialog dialog = dialogOf(handler.inputKind(item));
-    return dialog.draw ? dialog.draw(state, handler, item) : Frame();
+    switch (handler.inputKind(item)) {
+    case DropdownInput:
+        return listSelector(state, handler, item);
+    case BooleanInput:
+        return booleanSelector(state, item);
+    case SliderInput:
+        return sliderDialog(state, handler, item);
+    case EditInput:
+        return editDialog(state, handler, item);
+    case SeparatorInput:
+    case ButtonInput:
+    case LabelInput:
+    case SelectLabelInput:
+    case PlainInput:
+    case NoInput:
+        break;
+    }
+    return {};
 }
 
 bool commitValue(ViewState &state, const TreeViewItemHandler &handler, int index)
 {
     TreeViewItem *const item = state.visibleItems.value(index);
-    const Dialog dialog = item ? dialogOf(handler.inputKind(*item)) : Dialog();
-    const std::optional<QVariant> value =
-        dialog.value ? dialog.value(state, handler, *item) : std::nullopt;
+    const std::optional<QVariant> value = item ? chosenValue(state, handler, *item) : std::nullopt;
     if (!value)
         return false;
     if (!state.formerValue)
