@@ -1,6 +1,10 @@
-// Where the program's messages go, so that none appears on the screen.
+// Where messages of the program go, so that none appears on the screen.
 #pragma once
 
-/// Sends all messages to standard error or, where that is a terminal, to the system log; a fatal
-/// one to standard error in any case.
-void installMessageLog();
+#include <QByteArray>
+
+/// Sends all messages to standard error or, if that is a terminal, to the log daemon at
+/// `logSocket`; a fatal one to standard error in any case. Never waits: a message that is not taken
+/// at once is dropped, and the next one that is taken follows a line with the number of those
+/// dropped.
+void installMessageLog(const QByteArray &logSocket = "/dev/log");

@@ -1,0 +1,69 @@
+#include "app/SystemLog.h"
+
+#include <QDateTime>
+#include <QLocale>
+
+#include <cerrno>
+#include <cstring>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <syslog.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int maximumLength = 8192; // log daemons take no more as one message
+
+// Log daemons expect an English month and the day padded by a blank.
+QByteArray timestamp()
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    const QString text = QLocale::c().toString(now, QStringLiteral("MMM%1 hh:mm:ss"));
+    return text.arg(now.date().day(), 3).toLatin1();
+}
+
+} // namespace
+
+SystemLog::SystemLog(const QByteArray &socketPath)
+    : socketPath(socketPath)
+{
+}
+
+SystemLog::~SystemLog()
+{
+    if (socket >= 0)
+        close(socket);
+}
+
+bool SystemLog::send(int priority, const QByteArray &line)
+{
+    const QByteArray message = '<' + QByteArray::number(LOG_USER | priority) + '>' + timestamp()
+        + ' ' + program_invocation_short_name + '[' + QByteArray::number(getpid())
+        + "]: " + line.left(maximumLength);
+    // A daemon that was restarted needs a new connection.
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        if (socket < 0 && !connectSocket())
+            return false;
+        if (::send(socket, message.constData(), size_t(message.size()), MSG_NOSIGNAL) >= 0)
+            return true;
+        if (errno == EAGAIN)
+            return false;
+        close(socket);
+        socket = -1;
+    }
+    return false;
+}
+
+bool SystemLog::connectSocket()
+{
+    sockaddr_un address = {};
+    address.sun_family = AF_UNIX;
+    qstrncpy(address.sun_path, socketPath.constData(), sizeof address.sun_path);
+    socket = ::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    if (connect(socket, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0)
+        return true;
+    close(socket);
+    socket = -1;
+    return false;
+}
