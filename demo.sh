@@ -5,7 +5,7 @@ set -euo pipefail
 
 help() {
     cat <<'END'
-Usage: ./demo.sh [--state DIR] [--idle MS] [--help]
+Usage: ./demo.sh [--state DIR] [--idle MS] [--web-root DIR] [--help]
 
 Opens the Dravikon console on a simulated truck controller, in this terminal. On
 Debian 12 it first installs the packages that the build needs (with sudo when
@@ -14,6 +14,9 @@ you are not root), and builds the demo and dravikon-menu-check in build/release.
   --state DIR  keep the device's state in DIR and continue from there next time;
                without it each session starts with a fresh device
   --idle MS    end after MS milliseconds without a key (default 180000)
+  --web-root DIR
+               preview the menu definition in DIR instead, on a device made from
+               it; the other options of dravikon-preview are taken, too
   -h, --help   show this help
 
 Keys in the menu
@@ -90,6 +93,9 @@ while (($#)); do
         ;;
     --state) [[ ${2-} ]] || fail "--state needs a directory" ;;
     --idle) [[ ${2-} =~ ^[1-9][0-9]{0,8}$ ]] || fail "--idle needs a number of milliseconds" ;;
+    --web-root | --tool | --compartments | --meters | --seal)
+        [[ ${2-} ]] || fail "$1 needs a value"
+        ;;
     *) fail "unknown option $1" ;;
     esac
     shift 2
@@ -100,7 +106,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 (
     cd "$root"
     cmake --preset release --log-level=WARNING
-    cmake --build --preset release --target dravikon-demo dravikon-demo-tool dravikon-menu-check
+    cmake --build --preset release --target dravikon-demo dravikon-menu-check
 )
 
 converter=()

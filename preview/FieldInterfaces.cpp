@@ -1,6 +1,6 @@
-#include "demo/FieldInterfaces.h"
+#include "preview/FieldInterfaces.h"
 
-#include "demo/DeviceState.h"
+#include "preview/DeviceState.h"
 
 #include <cmath>
 

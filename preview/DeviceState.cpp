@@ -1,4 +1,4 @@
-#include "demo/DeviceState.h"
+#include "preview/DeviceState.h"
 
 #include "json/JsonReader.h"
 #include "json/JsonWriter.h"
@@ -36,17 +36,17 @@ QString stateFile(const QString &directory)
     return directory + QLatin1String("/state.json");
 }
 
-QVariant loadState(const QString &directory)
+QVariant loadState(const QString &path)
 {
-    QFile file(stateFile(directory));
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {};
     return parseJson(file.readAll()).value_or(QVariant());
 }
 
-bool saveState(const QString &directory, const QVariant &state)
+bool saveState(const QString &path, const QVariant &state)
 {
-    QSaveFile file(stateFile(directory));
+    QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return false;
     file.write(indented(state, {}) + '\n');
@@ -72,12 +72,14 @@ void setValueAt(QVariant &state, const QVariantList &path, const QVariant &value
         state = map;
     } else {
         QVariantList list = state.toList();
-        setValueAt(list[path.first().toInt()], path.mid(1), value);
+        const int index = path.first().toInt();
+        if (index >= 0 && index < list.size())
+            setValueAt(list[index], path.mid(1), value);
         state = list;
     }
 }
 
 QByteArray deviceJson(const QVariant &value)
 {
-    return jsonText(value, QLocale::FloatingPointShortest).value_or(QByteArray());
+    return jsonText(value, QLocale::FloatingPointShortest).value_or("null");
 }

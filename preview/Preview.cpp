@@ -1,0 +1,219 @@
+#include "preview/Preview.h"
+
+#include "app/Session.h"
+#include "check/FileFault.h"
+#include "check/MenuCheck.h"
+#include "check/QuietMessages.h"
+#include "preview/SimulatedDevice.h"
+#include "preview/SimulatedTool.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <Version.h>
+
+#include <cstdio>
+#include <limits>
+#include <optional>
+
+namespace {
+
+enum ExitStatus { Success, NoDevice, WrongUsage };
+
+struct PreviewOptions {
+    QString webRoot;
+    QString values; ///< file with values to start from; empty for none
+    QString stateDirectory; ///< empty: a temporary one
+    QString tool; ///< empty: that of the simulated device
+    DeviceWishes wishes;
+    int idleMs = SessionOptions().idleMs;
+};
+
+const QString description = QStringLiteral(
+    "Opens the console on the menu definition of a web interface, with a simulated device\n"
+    "that is made from the definition. After the session reports on standard error what is\n"
+    "wrong with the definition, as dravikon-menu-check does.");
+
+void print(std::FILE *file, const QString &text)
+{
+    std::fprintf(file, "%s\n", text.toLocal8Bit().constData());
+}
+
+int failure(const QString &text, ExitStatus status)
+{
+    print(stderr, QStringLiteral("dravikon-preview: ") + text);
+    return status;
+}
+
+void addOptions(QCommandLineParser &parser)
+{
+    const auto add = [&parser](const char *name, const char *text, const char *value = "") {
+        parser.addOption({ QLatin1String(name), QLatin1String(text), QLatin1String(value) });
+    };
+    add("web-root", "Folder of the web interface, with scripts/settings.js and locales/.", "DIR");
+    add("compartments", "Number of compartments, 3 unless the state has another.", "N");
+    add("meters", "Number of meters, 2 unless the state has another.", "N");
+    add("seal", "The electronic seal, open or closed; closed unless the state has it open.",
+        "SEAL");
+    add("state",
+        "Keep the device's state in DIR and continue from there next time; without it each "
+        "session starts with a fresh device.",
+        "DIR");
+    add("idle", "End after MS milliseconds without a key (default 180000).", "MS");
+    add("tool", "Run FILE as the backend tool; there is no simulated device then.", "FILE");
+    add("help", "Print this text.");
+    add("version", "Print the version.");
+}
+
+// Each of these takes an option that may be missing and returns what is wrong with its value.
+
+QString takeNumber(const QCommandLineParser &parser, const char *name, int lowest, int highest,
+    std::optional<int> &number)
+{
+    if (!parser.isSet(QLatin1String(name)))
+        return {};
+    bool isNumber = false;
+    number = parser.value(QLatin1String(name)).toInt(&isNumber);
+    if (isNumber && *number >= lowest && *number <= highest)
+        return {};
+    return QStringLiteral("--%1 takes a number from %2 to %3")
+        .arg(QLatin1String(name))
+        .arg(lowest)
+        .arg(highest);
+}
+
+QString takePath(const QCommandLineParser &parser, const char *name, QString &path)
+{
+    if (!parser.isSet(QLatin1String(name)))
+        return {};
+    const QString value = parser.value(QLatin1String(name));
+    path = QDir(value).absolutePath();
+    return value.isEmpty() ? QStringLiteral("--%1 takes a path").arg(QLatin1String(name))
+                           : QString();
+}
+
+QString takeSeal(const QCommandLineParser &parser, std::optional<bool> &isOpen)
+{
+    const QString seal = parser.value(QStringLiteral("seal"));
+    const bool isSet = parser.isSet(QStringLiteral("seal"));
+    if (isSet)
+        isOpen = seal == QLatin1String("open");
+    return !isSet || *isOpen || seal == QLatin1String("closed")
+        ? QString()
+        : QStringLiteral("--seal is open or closed");
+}
+
+// What is wrong with the command line; empty when nothing is.
+QString takeOptions(const QCommandLineParser &parser, PreviewOptions &options)
+{
+    std::optional<int> idleMs;
+    for (const QString &problem : { takePath(parser, "web-root", options.webRoot),
+             takePath(parser, "state", options.stateDirectory),
+             takePath(parser, "tool", options.tool),
+             takeNumber(parser, "compartments", 0, 999, options.wishes.compartments),
+             takeNumber(parser, "meters", 0, 999, options.wishes.meters),
+             takeNumber(parser, "idle", 1, std::numeric_limits<int>::max(), idleMs),
+             takeSeal(parser, options.wishes.isSealOpen) }) {
+        if (!problem.isEmpty())
+            return problem;
+    }
+    options.idleMs = idleMs.value_or(options.idleMs);
+    if (!options.tool.isEmpty() && !QFileInfo(options.tool).isExecutable())
+        return QStringLiteral("cannot run ") + options.tool;
+    if (!parser.positionalArguments().isEmpty())
+        return QStringLiteral("unexpected ") + parser.positionalArguments().first();
+    return {};
+}
+
+// The exit status where no session is to follow.
+std::optional<int> readCommandLine(int argc, char **argv, PreviewOptions &options)
+{
+    const QCoreApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(description);
+    addOptions(parser);
+    if (!parser.parse(QCoreApplication::arguments()))
+        return failure(parser.errorText(), WrongUsage);
+    if (parser.isSet(QStringLiteral("help"))) {
+        print(stdout, parser.helpText());
+        return Success;
+    }
+    if (parser.isSet(QStringLiteral("version"))) {
+        print(stdout, QStringLiteral("dravikon-preview ") + consoleVersion);
+        return Success;
+    }
+    const QString problem = takeOptions(parser, options);
+    if (!problem.isEmpty())
+        return failure(problem, WrongUsage);
+    return std::nullopt;
+}
+
+// The path by which this program was started.
+QString ownPath(const char *program)
+{
+    const QString name = QFile::decodeName(program);
+    return name.contains(QLatin1Char('/')) ? QFileInfo(name).absoluteFilePath()
+                                           : QStandardPaths::findExecutable(name);
+}
+
+void reportProblems(const DevicePaths &paths)
+{
+    int argc = 0;
+    const QCoreApplication application(argc, nullptr);
+    const QString fault = fileFault(paths);
+    if (!fault.isEmpty()) {
+        failure(QStringLiteral("cannot load ") + fault, Success);
+        return;
+    }
+    const QuietMessages quiet;
+    LoadedMenu menu(paths);
+    for (const QString &problem : menuProblems(menu))
+        print(stderr, problem);
+}
+
+int runOn(const QString &tool, const PreviewOptions &options, char *program)
+{
+    SessionOptions session;
+    session.paths = { options.webRoot };
+    session.paths.backendTool = tool;
+    session.idleMs = options.idleMs;
+    int argc = 1;
+    char *argv[] = { program, nullptr };
+    const int status = runSession(argc, argv, session);
+    reportProblems(session.paths);
+    return status;
+}
+
+int runOnSimulatedDevice(const QString &directory, const PreviewOptions &options, char *program)
+{
+    if (!makeSimulatedDevice(
+            directory, ownPath(program), options.webRoot, options.values, options.wishes))
+        return failure(QStringLiteral("cannot make a device in ") + directory, NoDevice);
+    return runOn(simulatedTool(directory), options, program);
+}
+
+} // namespace
+
+int runPreview(int argc, char **argv, const PreviewDefaults &defaults)
+{
+    if (isSimulatedTool(argv[0]))
+        return runSimulatedTool(argc, argv);
+    PreviewOptions options;
+    if (const std::optional<int> status = readCommandLine(argc, argv, options))
+        return *status;
+    if (options.webRoot.isEmpty()) {
+        options.webRoot = defaults.webRoot;
+        options.values = defaults.values;
+    }
+    if (!options.tool.isEmpty())
+        return runOn(options.tool, options, argv[0]);
+    if (!options.stateDirectory.isEmpty())
+        return runOnSimulatedDevice(options.stateDirectory, options, argv[0]);
+    const QTemporaryDir directory(QDir::tempPath() + QLatin1String("/dravikon-preview-XXXXXX"));
+    if (!directory.isValid())
+        return failure(QStringLiteral("cannot make a directory in ") + QDir::tempPath(), NoDevice);
+    return runOnSimulatedDevice(directory.path(), options, argv[0]);
+}
