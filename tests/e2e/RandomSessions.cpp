@@ -39,11 +39,20 @@ const QByteArrayList keys = { Key::enter, Key::enter, Key::enter, Key::up, Key::
     Key::down, Key::left, Key::right, Key::pageUp, Key::pageDown, Key::escape, Key::backspace,
     Key::redraw };
 
+struct TerminalSize {
+    int columns;
+    int rows;
+};
+
+// Sizes that chance hardly meets.
+const TerminalSize rareSizes[] = { { 1, 1 }, { 2, 2 }, { 10, 3 }, { 500, 200 } };
+
 class Player {
 public:
     Player(const QString &program, quint32 seed)
         : program(program)
         , random(seed)
+        , nextRareSize(seed)
     {
     }
 
@@ -66,9 +75,11 @@ public:
                 session.signal(SIGWINCH);
                 break;
             case 1:
-                rows = 1 + random.bounded(60);
-                columns = 1 + random.bounded(random.bounded(2) ? 200 : 20);
-                session.resize(rows, columns);
+                resize(
+                    { 1 + random.bounded(random.bounded(2) ? 200 : 20), 1 + random.bounded(60) });
+                break;
+            case 2:
+                resize(rareSizes[nextRareSize++ % std::size(rareSizes)]);
                 break;
             default:
                 if (!session.press({ randomKey() }))
@@ -94,6 +105,13 @@ private:
             return keys.at(random.bounded(keys.size()));
         const char byte = char(random.bounded(256));
         return excluded.contains(byte) ? QByteArray("x") : QByteArray(1, byte);
+    }
+
+    void resize(const TerminalSize &size)
+    {
+        rows = size.rows;
+        columns = size.columns;
+        session.resize(rows, columns);
     }
 
     void setFault(const QByteArray &fault)
@@ -159,6 +177,7 @@ private:
 
     const QString program;
     QRandomGenerator random;
+    uint nextRareSize;
     DeviceSession session;
     int rows = 24;
     int columns = 80;

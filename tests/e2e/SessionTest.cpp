@@ -66,7 +66,6 @@ class SessionTest : public QObject {
 private slots:
     void commandLine();
     void badDays();
-    void everySize();
     void endOfSession();
     void deathBySignal();
     void interrupt_data();
@@ -139,29 +138,6 @@ void SessionTest::badDays()
         QCOMPARE(session.terminal().row(0), QStringLiteral("Quenstadel"));
         QVERIFY2(session.messages().contains(QLatin1String(day.message)), day.message);
         QVERIFY(session.press({ "q" }));
-        QCOMPARE(session.waitForExit(), endedWell);
-    }
-}
-
-void SessionTest::everySize()
-{
-    for (const QSize size : { QSize(1, 1), QSize(80, 1), QSize(2, 2), QSize(10, 3), QSize(1, 9),
-             QSize(20, 5), QSize(40, 7), QSize(132, 60), QSize(500, 200) }) {
-        Session session;
-        QVERIFY(session.run(console, size.height(), size.width()) && session.press({ "x" }));
-        // A row as wide as the terminal loses its last cell to the erasing of the rest.
-        const QString header = QStringLiteral("Quenstadel").left(size.width() - 1);
-        // Open a group, type, choose, look at the interface, run to the end and back.
-        for (const QByteArray &key : keysToEditField
-                + QByteArrayList { Key::backspace, "\xe4", Key::left, Key::enter, Key::down,
-                    Key::enter, Key::up, Key::escape, Key::down, Key::enter, Key::down, Key::enter,
-                    Key::pageDown, Key::escape, Key::pageDown, Key::enter, Key::pageUp }) {
-            QVERIFY(session.press({ key }));
-            QVERIFY(size.height() == 1 || session.terminal().row(0) == header);
-            QVERIFY(QStringLiteral("Dravikon ver")
-                        .startsWith(session.terminal().screen().last().left(12)));
-        }
-        QVERIFY(session.press({ Key::escape, "Q" }));
         QCOMPARE(session.waitForExit(), endedWell);
     }
 }
