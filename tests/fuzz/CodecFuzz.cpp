@@ -1,11 +1,12 @@
 // Whatever the tool prints: what is understood of it can be written back and is the same again.
 #include "menu/ScriptHelper.h"
-#include "tests/fuzz/Bytes.h"
+#include "tests/fuzz/Expect.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    const QVariantList values = ScriptHelper::byteArray2VariantList(Bytes(data, size).rest());
+    const QVariantList values = ScriptHelper::byteArray2VariantList(
+        QByteArray(reinterpret_cast<const char *>(data), int(size)));
     const QString json = ScriptHelper::variantListToJson(values);
     expect(!json.isNull());
     for (const QChar character : json)

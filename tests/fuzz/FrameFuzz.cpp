@@ -1,7 +1,9 @@
 // Whatever is drawn, wherever: no row is wider than the terminal and no foreign text controls it.
 #include "render/ForeignText.h"
 #include "render/Frame.h"
-#include "tests/fuzz/Bytes.h"
+#include "tests/fuzz/Expect.h"
+
+#include <fuzzer/FuzzedDataProvider.h>
 
 namespace {
 
@@ -23,23 +25,31 @@ int visibleWidth(const QString &line)
     return width;
 }
 
+QString foreignText(FuzzedDataProvider &input)
+{
+    const std::string bytes = input.ConsumeRandomLengthString();
+    const QString text = input.ConsumeBool() ? QString::fromUtf8(bytes.data(), int(bytes.size()))
+                                             : QString::fromLatin1(bytes.data(), int(bytes.size()));
+    return printable(text);
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    Bytes bytes(data, size);
-    const int rows = bytes.byte() % 16;
-    const int width = bytes.byte() % 100;
-    Frame frame = buildBox(bytes.number(), width, rows);
+    FuzzedDataProvider input(data, size);
+    const int rows = input.ConsumeIntegralInRange(0, 15);
+    const int width = input.ConsumeIntegralInRange(0, 99);
+    Frame frame = buildBox(input.ConsumeIntegral<int>(), width, rows);
     expect(frame.size() <= qMax(rows - 2, 0));
-    while (!bytes.isEmpty()) {
-        const int line = bytes.byte() % 16;
-        switch (bytes.byte() % 4) {
+    while (input.remaining_bytes() > 0) {
+        const int line = input.ConsumeIntegralInRange(0, 15);
+        switch (input.ConsumeIntegralInRange(0, 3)) {
         case 0:
-            placeCentred(frame, width, line, printable(bytes.text()), bytes.number());
+            placeCentred(frame, width, line, foreignText(input), input.ConsumeIntegral<int>());
             break;
         case 1:
-            insertText(frame[line], bytes.number() % 1000, printable(bytes.text()));
+            insertText(frame[line], input.ConsumeIntegralInRange(-1000, 1000), foreignText(input));
             break;
         case 2: {
             // Colours come last on a line, as in the dialogs.
@@ -50,7 +60,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         }
         default: {
             Frame coloured = frame;
-            colourSegment(coloured, width, line, bytes.number(), bytes.byte() & 1);
+            colourSegment(coloured, width, line, input.ConsumeIntegral<int>(), input.ConsumeBool());
             visibleWidth(coloured.value(line));
             expect(visibleWidth(cutToWidth(coloured.value(line), width)) <= width);
             break;
