@@ -1,22 +1,34 @@
 #!/usr/bin/env bash
-# Builds Dravikon, checks its sources and passes all its tests, after installing what is missing
-# for that.
+# Builds Dravikon and runs all its tests. With --full it also checks the format of the sources, runs
+# the tests with sanitizers, the fuzz targets and the linters. Installs what is missing for that.
 set -euo pipefail
 cd "$(dirname "$0")"
 
-cmake/install-missing.sh \
-    git g++ cmake ninja-build pkg-config clang clang-format clang-tidy cppcheck libclang-rt-14-dev \
+if [ $# -gt 1 ] || [ "${1:---full}" != --full ]; then
+    echo "Usage: ./test.sh [--full]" >&2
+    exit 2
+fi
+
+# build_and_test PRESET
+build_and_test() {
+    echo "== $1"
+    cmake --preset "$1" --log-level=WARNING
+    cmake --build --preset "$1"
+    ctest --preset "$1" -j "$(nproc)"
+}
+
+cmake/install-missing.sh g++ cmake ninja-build pkg-config \
     qtbase5-dev qtscript5-dev rapidjson-dev libvterm-dev
+[ $# = 0 ] || cmake/install-missing.sh git clang clang-format clang-tidy cppcheck libclang-rt-14-dev
+
+build_and_test dev
+[ $# = 1 ] || exit 0
 
 echo "== format"
 git ls-files -z -- '*.cpp' '*.h' | xargs -0 clang-format --dry-run -Werror
 
-for preset in dev asan fuzz; do
-    echo "== $preset"
-    cmake --preset "$preset" --log-level=WARNING
-    cmake --build --preset "$preset"
-    ctest --preset "$preset"
-done
+build_and_test asan
+build_and_test fuzz
 
 echo "== clang-tidy"
 git ls-files -z -- '*.cpp' ':!bench' \
