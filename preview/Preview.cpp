@@ -190,7 +190,7 @@ int runOn(const QString &tool, const PreviewOptions &options, char *program)
 int runOnSimulatedDevice(const QString &directory, const PreviewOptions &options, char *program)
 {
     if (!makeSimulatedDevice(
-            directory, ownPath(program), options.webRoot, options.values, options.wishes))
+            directory, ownPath(program), { options.webRoot }, options.values, options.wishes))
         return failure(QStringLiteral("cannot make a device in ") + directory, NoDevice);
     return runOn(simulatedTool(directory), options, program);
 }

@@ -33,7 +33,7 @@ template <typename Work> bool inOwnProcess(const Work &work)
 
 } // namespace
 
-bool makeSimulatedDevice(const QString &directory, const QString &program, const QString &webRoot,
+bool makeSimulatedDevice(const QString &directory, const QString &program, const DevicePaths &paths,
     const QString &values, const DeviceWishes &wishes)
 {
     const QString tool = simulatedTool(directory);
@@ -46,7 +46,7 @@ bool makeSimulatedDevice(const QString &directory, const QString &program, const
         const QuietMessages quiet;
         const QVariant known =
             loadState(QFile::exists(stateFile(directory)) ? stateFile(directory) : values);
-        return saveState(stateFile(directory), deviceFromMenu({ webRoot }, known, wishes));
+        return saveState(stateFile(directory), deviceFromMenu(paths, known, wishes));
     });
 }
 
