@@ -1,5 +1,7 @@
 #include "pictures/Svg.h"
 
+#include <numeric>
+
 namespace {
 
 constexpr int cellWidth = 9;
@@ -46,32 +48,91 @@ QString backgroundsOf(const QString &letters, int row)
     return shapes;
 }
 
-} // namespace
-
-QByteArray svgOf(const TerminalEmulator &terminal)
+QString shapesOf(const TerminalEmulator &terminal)
 {
     const QStringList rows = terminal.screen();
-    const int columns = terminal.backgrounds(0).size();
-    QString svg = QStringLiteral("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%1\" "
-                                 "height=\"%2\" font-family=\"monospace\" font-size=\"15\">\n")
-                      .arg(columns * cellWidth)
-                      .arg(rows.size() * cellHeight);
-    svg += QStringLiteral("<rect width=\"100%\" height=\"100%\" fill=\"#16181c\"/>\n");
+    QString shapes;
     for (int row = 0; row < rows.size(); ++row)
-        svg += backgroundsOf(terminal.backgrounds(row), row);
+        shapes += backgroundsOf(terminal.backgrounds(row), row);
     if (terminal.cursorVisible()) {
-        svg += rectangle(terminal.cursor().x(), terminal.cursor().y(), 1,
+        shapes += rectangle(terminal.cursor().x(), terminal.cursor().y(), 1,
             QStringLiteral("fill=\"none\" stroke=\"#e8e8e8\""));
     }
     for (int row = 0; row < rows.size(); ++row) {
         if (rows.at(row).isEmpty())
             continue;
-        svg += QStringLiteral("<text x=\"0\" y=\"%1\" textLength=\"%2\" fill=\"#e8e8e8\" "
-                              "xml:space=\"preserve\">%3</text>\n")
-                   .arg(row * cellHeight + baseline)
-                   .arg(rows.at(row).size() * cellWidth)
-                   .arg(rows.at(row).toHtmlEscaped());
+        shapes += QStringLiteral("<text x=\"0\" y=\"%1\" textLength=\"%2\" fill=\"#e8e8e8\" "
+                                 "xml:space=\"preserve\">%3</text>\n")
+                      .arg(row * cellHeight + baseline)
+                      .arg(rows.at(row).size() * cellWidth)
+                      .arg(rows.at(row).toHtmlEscaped());
     }
-    svg += QStringLiteral("</svg>\n");
-    return svg.toUtf8();
+    return shapes;
+}
+
+QSize sizeOf(const TerminalEmulator &terminal)
+{
+    return { terminal.backgrounds(0).size(), terminal.screen().size() };
+}
+
+// A picture of the size in columns and rows, on the background of a terminal.
+QByteArray pictureOf(const QSize &size, const QString &content)
+{
+    return QStringLiteral("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%1\" "
+                          "height=\"%2\" font-family=\"monospace\" font-size=\"15\">\n"
+                          "<rect width=\"100%\" height=\"100%\" fill=\"#16181c\"/>\n%3</svg>\n")
+        .arg(size.width() * cellWidth)
+        .arg(size.height() * cellHeight)
+        .arg(content)
+        .toUtf8();
+}
+
+} // namespace
+
+QByteArray svgOf(const TerminalEmulator &terminal)
+{
+    return pictureOf(sizeOf(terminal), shapesOf(terminal));
+}
+
+void SvgFilm::add(const TerminalEmulator &terminal, int ms)
+{
+    size = sizeOf(terminal);
+    const QString shapes = shapesOf(terminal);
+    if (!frames.isEmpty() && frames.last().shapes == shapes)
+        frames.last().ms += ms;
+    else
+        frames.append({ shapes, ms });
+}
+
+// The screens are below each other on a strip, which jumps up by one screen at a time.
+QByteArray SvgFilm::svg() const
+{
+    const int height = size.height() * cellHeight;
+    const int total = std::accumulate(frames.begin(), frames.end(), 0,
+        [](int sum, const Frame &frame) { return sum + frame.ms; });
+    QString jumps;
+    QString strip;
+    int shownMs = 0;
+    for (int i = 0; i < frames.size(); ++i) {
+        jumps += QStringLiteral("%1%{transform:translateY(%2px)}\n")
+                     .arg(100.0 * shownMs / total, 0, 'f', 3)
+                     .arg(-i * height);
+        strip += QStringLiteral("<g transform=\"translate(0,%1)\">\n%2</g>\n")
+                     .arg(i * height)
+                     .arg(frames.at(i).shapes);
+        shownMs += frames.at(i).ms;
+    }
+    const QString style = QStringLiteral("<style>\n@keyframes film{\n%1}\n"
+                                         "#film{animation:film %2ms step-end infinite}\n"
+                                         "@media (prefers-reduced-motion:reduce){"
+                                         "#film{animation:none}}\n</style>\n")
+                              .arg(jumps)
+                              .arg(total);
+    // The inner picture cuts off what of the strip is not to be seen.
+    return pictureOf(size,
+        style
+            + QStringLiteral("<svg width=\"100%\" height=\"100%\">\n"
+                             "<g id=\"film\" transform=\"translate(0,%1)\">\n%2</g>\n</svg>\n")
+                  .arg(-still * height)
+                  .arg(strip));
 }

@@ -2,6 +2,8 @@
 #include "pictures/DemoSession.h"
 #include "pictures/Svg.h"
 
+#include <QFile>
+
 #include <cstdio>
 
 namespace {
@@ -20,16 +22,60 @@ constexpr Picture pictures[] = {
     { "spd", "Service/Diagnose/SPD", "", "SPD IF: 1/4" },
 };
 
+/// What is done in the film, and how long it is seen.
+struct Scene {
+    const char *keys; ///< as `keysFromText` takes them
+    int keyMs; ///< the time of each key but the last
+    int lastMs; ///< the time of the last key
+};
+
+constexpr Scene scenes[] = {
+    { "Down*2 Return", 150, 600 }, // loading plans
+    { "Down*2 Return", 150, 700 }, // loading rules
+    { "Down*4 Return", 120, 800 }, // a list
+    { "Down Return", 400, 700 },
+    { "Down Return", 150, 500 }, // an edit field
+    { "Left*2 \"9\"", 200, 900 }, // refused
+    { "Backspace \"1\" Return", 400, 800 }, // accepted and written
+    { "PageDown Return Down*3 Return Down", 150, 250 }, // the field interfaces
+    { "Return PageDown", 1000, 1000 },
+};
+constexpr int stillScene = 2;
+
+bool write(const QString &folder, const char *name, const QByteArray &svg)
+{
+    QFile file(QStringLiteral("%1/%2.svg").arg(folder, QLatin1String(name)));
+    return file.open(QIODevice::WriteOnly) && file.write(svg) == svg.size();
+}
+
 bool take(const Picture &picture, const QString &folder)
 {
     DemoSession session;
-    const bool isShown = session.run(QStringLiteral(DEMO))
-        && session.open(QString::fromLatin1(picture.path))
+    return session.run(QStringLiteral(DEMO)) && session.open(QString::fromLatin1(picture.path))
         && session.pressAll(QString::fromLatin1(picture.keys))
-        && session.waitForText(QString::fromLatin1(picture.awaited));
-    QFile file(QStringLiteral("%1/%2.svg").arg(folder, QLatin1String(picture.name)));
-    const QByteArray svg = svgOf(session.terminal());
-    return isShown && file.open(QIODevice::WriteOnly) && file.write(svg) == svg.size();
+        && session.waitForText(QString::fromLatin1(picture.awaited))
+        && write(folder, picture.name, svgOf(session.terminal()));
+}
+
+bool takeFilm(const QString &folder)
+{
+    DemoSession session;
+    SvgFilm film;
+    if (!session.run(QStringLiteral(DEMO)) || !session.waitForRest())
+        return false;
+    film.add(session.terminal(), 800);
+    for (const Scene &scene : scenes) {
+        const QByteArrayList keys =
+            keysFromText(QString::fromLatin1(scene.keys)).value_or(QByteArrayList());
+        for (int i = 0; i < keys.size(); ++i) {
+            if (!session.press(keys.at(i)) || !session.waitForRest())
+                return false;
+            film.add(session.terminal(), i < keys.size() - 1 ? scene.keyMs : scene.lastMs);
+        }
+        if (&scene == &scenes[stillScene])
+            film.chooseStill();
+    }
+    return write(folder, "session", film.svg());
 }
 
 } // namespace
@@ -40,11 +86,16 @@ int main(int argc, char **argv)
         std::fputs("Usage: dravikon-pictures DIR\n", stderr);
         return 2;
     }
+    const QString folder = QFile::decodeName(argv[1]);
     for (const Picture &picture : pictures) {
-        if (!take(picture, QFile::decodeName(argv[1]))) {
+        if (!take(picture, folder)) {
             std::fprintf(stderr, "dravikon-pictures: cannot take %s\n", picture.name);
             return 1;
         }
+    }
+    if (!takeFilm(folder)) {
+        std::fputs("dravikon-pictures: cannot take session\n", stderr);
+        return 1;
     }
     return 0;
 }
