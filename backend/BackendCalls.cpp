@@ -10,7 +10,7 @@
 
 QByteArray ScriptHelper::run(const QStringList &arguments) const
 {
-    return BackendTool::run(paths.backendTool, arguments);
+    return runTool ? runTool(arguments) : BackendTool::run(paths.backendTool, arguments);
 }
 
 QVariantList ScriptHelper::read(const QStringList &arguments, bool force)

@@ -16,10 +16,31 @@ QStringList argumentsOf(const QString &binding, int index)
 
 } // namespace
 
+QStringList TreeViewItemHandler::sealQuery()
+{
+    return { QStringLiteral("get_menu_electronic_seal_status") };
+}
+
+QStringList TreeViewItemHandler::listQuery(InterfaceKind kind, int tagNumber)
+{
+    const char *const query = wordsOf(kind).listQuery;
+    if (!query)
+        return {};
+    QStringList arguments(QLatin1String { query });
+    if (kind == TagInterface)
+        arguments.append(QString::number(tagNumber));
+    return arguments;
+}
+
+QStringList TreeViewItemHandler::readArguments(const TreeViewItem &item) const
+{
+    const std::optional<QString> binding = readBinding(item);
+    return binding ? argumentsOf(*binding, item.index) : QStringList();
+}
+
 void TreeViewItemHandler::updateAccessLevel()
 {
-    const QVariant state =
-        script.read({ QStringLiteral("get_menu_electronic_seal_status") }, true).value(0);
+    const QVariant state = script.read(sealQuery(), true).value(0);
     currentAccessLevel =
         state.toString() == QLatin1String("i18n_wm_false") ? openAccessLevel : sealedAccessLevel;
 }
@@ -44,21 +65,16 @@ void TreeViewItemHandler::readOpenItems(TreeViewItem &item)
 
 bool TreeViewItemHandler::readValues(TreeViewItem &item)
 {
-    const std::optional<QString> binding = readBinding(item);
-    if (binding)
-        assignItemValues(item, script.read(argumentsOf(*binding, item.index), true));
-    return binding.has_value();
+    const bool isBound = readBinding(item).has_value();
+    if (isBound)
+        assignItemValues(item, script.read(readArguments(item), true));
+    return isBound;
 }
 
 QVariantList TreeViewItemHandler::interfaceList(InterfaceKind kind, int tagNumber)
 {
-    const char *const query = wordsOf(kind).listQuery;
-    if (!query)
-        return {};
-    QStringList arguments(QLatin1String { query });
-    if (kind == TagInterface)
-        arguments.append(QString::number(tagNumber));
-    return script.read(arguments, true);
+    const QStringList arguments = listQuery(kind, tagNumber);
+    return arguments.isEmpty() ? QVariantList() : script.read(arguments, true);
 }
 
 bool TreeViewItemHandler::enableInterface(InterfaceKind kind, bool enabled)

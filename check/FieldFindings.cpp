@@ -1,6 +1,7 @@
 #include "check/Findings.h"
 
 #include "menu/RepeatedScreen.h"
+#include "json/Values.h"
 
 namespace {
 
@@ -24,7 +25,7 @@ Findings databaseValueFindings(const TreeViewItemHandler &handler, const TreeVie
             findings << error("equal-values",
                 QStringLiteral("\"dbValues\" has \"%1\" more than once, so only the first of its "
                                "texts is ever shown; give each text a value of its own")
-                    .arg(value.toString()));
+                    .arg(textOf(value)));
         }
     }
     if (handler.isInteger(item)) {

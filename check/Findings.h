@@ -61,6 +61,16 @@ Findings valueFindings(const TreeViewItemHandler &handler, const TreeViewItem &i
 /// Why an edit item refuses whatever is typed; empty when there is a text that it takes.
 Findings ruleFindings(const TreeViewItemHandler &handler, const TreeViewItem &item);
 
+/// True when there is a text that an edit item takes.
+bool acceptsSomething(const TreeViewItemHandler &handler, const TreeViewItem &item);
+
+/// A translation key without a text, or with one that the terminal cannot show; `what` says what it
+/// is of the item.
+Findings keyFindings(const QString &what, const QString &key);
+
+/// A character of `text` that a Latin-1 terminal cannot show.
+Findings characterFindings(const QString &what, const QString &text);
+
 /// Texts of a visible item that have no translation, hold characters beyond Latin-1 or reach into
 /// the values.
 Findings textFindings(const TreeViewItemHandler &handler, const TreeViewItem &item);

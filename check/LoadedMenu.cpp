@@ -7,13 +7,6 @@
 
 namespace {
 
-void expandAll(TreeViewItem &item)
-{
-    item.expanded = true;
-    for (const auto &child : item.children)
-        expandAll(*child);
-}
-
 // What the console logs about the script is reported as findings.
 QScriptValue loadQuietly(TreeViewItemHandler &handler)
 {
@@ -29,15 +22,27 @@ QScriptValue globalSettings(TreeViewItemHandler &handler)
 
 } // namespace
 
-LoadedMenu::LoadedMenu(const DevicePaths &paths)
+LoadedMenu::LoadedMenu(const DevicePaths &paths, const ToolRunner &runTool)
     : paths(paths)
-    , handler(paths)
+    , handler(paths, runTool)
     , settings(loadQuietly(handler))
     , global(globalSettings(handler))
     , screens(settings, handler.names())
     , root(buildTree(settings.property(0), screens, { 1, 1 }, handler.names()))
 {
     handler.setAccessLevel(TreeViewItemHandler::openAccessLevel);
+}
+
+void LoadedMenu::repeatScreens(const RepeatCounts &counts)
+{
+    root = buildTree(settings.property(0), screens, counts, handler.names());
+}
+
+void expandAll(TreeViewItem &item)
+{
+    item.expanded = true;
+    for (const auto &child : item.children)
+        expandAll(*child);
 }
 
 QStringList menuOutline(LoadedMenu &menu)

@@ -48,7 +48,7 @@ QString Report::placeOf(const TreeViewItem &item, int instance) const
     for (const TreeViewItem *level = &item; level; level = level->parentItem) {
         QString label = translate(menu.handler.labelKey(*level));
         if (instance >= 0 && isRepeatedScreen(level->referringEntry, names))
-            label += QLatin1Char(' ') + QString::number(instance + 1);
+            label += QLatin1Char(' ') + QString::number(level->position + 1);
         if (level->parentItem || labels.isEmpty())
             labels.prepend(label);
         if (css.isEmpty())

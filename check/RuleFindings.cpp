@@ -6,16 +6,6 @@
 
 namespace {
 
-// The shortest texts that a rule can take: none, or the number of the range next to zero.
-bool acceptsSomething(const TreeViewItemHandler &handler, const TreeViewItem &item)
-{
-    const QStringList texts = { QString(), QStringLiteral("0"),
-        QString::number(rangeValue(handler, item, 0)),
-        QString::number(rangeValue(handler, item, 1)) };
-    return std::any_of(texts.cbegin(), texts.cend(),
-        [&](const QString &text) { return validateInput(handler, item, text); });
-}
-
 bool isReserved(const QString &rule)
 {
     return rule == QLatin1String("FEAT") || rule == QLatin1String("IPV4")
@@ -54,6 +44,16 @@ Findings roomFindings(const TreeViewItemHandler &handler, const TreeViewItem &it
 }
 
 } // namespace
+
+// The shortest texts that a rule can take: none, or the number of the range next to zero.
+bool acceptsSomething(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    const QStringList texts = { QString(), QStringLiteral("0"),
+        QString::number(rangeValue(handler, item, 0)),
+        QString::number(rangeValue(handler, item, 1)) };
+    return std::any_of(texts.cbegin(), texts.cend(),
+        [&](const QString &text) { return validateInput(handler, item, text); });
+}
 
 Findings ruleFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {

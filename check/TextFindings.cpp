@@ -27,34 +27,40 @@ bool canBeShown(uint character)
     return character <= 0xff && printable(text) == text;
 }
 
-void checkText(Findings &findings, const QString &what, const QString &key)
+} // namespace
+
+Findings keyFindings(const QString &what, const QString &key)
 {
+    Findings findings;
     // Numbers and signs stand for themselves.
     if (hasLetter(key) && !isTranslated(key)) {
         findings << warning("untranslated",
             QStringLiteral("the %1 \"%2\" has no translation; add it to the English table")
                 .arg(what, key));
     }
-    const QString text = translate(key);
-    const QVector<uint> characters = text.toUcs4();
-    const auto *const bad = std::find_if_not(characters.cbegin(), characters.cend(), canBeShown);
-    if (bad != characters.cend()) {
-        findings << warning("unshowable",
-            QStringLiteral("the %1 \"%2\" has the character U+%3, which a Latin-1 terminal cannot "
-                           "show; write it otherwise")
-                .arg(what, text,
-                    QString::number(*bad, 16).toUpper().rightJustified(4, QLatin1Char('0'))));
-    }
+    return findings + characterFindings(what, translate(key));
 }
 
-} // namespace
+Findings characterFindings(const QString &what, const QString &text)
+{
+    const QVector<uint> characters = text.toUcs4();
+    const auto *const bad = std::find_if_not(characters.cbegin(), characters.cend(), canBeShown);
+    if (bad == characters.cend())
+        return {};
+    return { warning("unshowable",
+        QStringLiteral(
+            "the %1 \"%2\" has the character U+%3, which a Latin-1 terminal cannot show; "
+            "write it otherwise")
+            .arg(what, text,
+                QString::number(*bad, 16).toUpper().rightJustified(4, QLatin1Char('0')))) };
+}
 
 Findings textFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
     Findings findings;
     const InputKind kind = handler.inputKind(item);
     const QString key = handler.labelKey(item);
-    checkText(findings, QStringLiteral("label"), key);
+    findings += keyFindings(QStringLiteral("label"), key);
     if (key.isEmpty() && kind != SeparatorInput)
         findings << warning("no-label", QStringLiteral("it has no label; give it an \"i18n\""));
 
@@ -69,7 +75,8 @@ Findings textFindings(const TreeViewItemHandler &handler, const TreeViewItem &it
     }
     if (kind == DropdownInput || kind == SelectLabelInput) {
         for (int i = 0, count = handler.valueCount(item); i < count; ++i)
-            checkText(findings, QStringLiteral("option text"), textOf(handler.valueAt(item, i)));
+            findings +=
+                keyFindings(QStringLiteral("option text"), textOf(handler.valueAt(item, i)));
     }
     return findings;
 }

@@ -1,39 +1,37 @@
 #include "check/ToolCalls.h"
 
 #include <QElapsedTimer>
-#include <QFileInfo>
-
-ToolCalls::ToolCalls(QString tool, Progress progress, int patienceMs)
-    : program(std::move(tool))
-    , progress(std::move(progress))
-    , patienceMs(patienceMs)
-{
-}
 
 QByteArray ToolCalls::run(const QStringList &arguments)
 {
-    const auto known = calls.find(arguments);
-    if (known != calls.cend())
-        return known->second.output;
+    if (const ToolCall *const call = find(arguments))
+        return call->output;
+    planned.insert(arguments);
+    if (isPlanning)
+        return {};
     if (progress)
-        progress(int(calls.size()) + 1, arguments);
+        progress(int(made.size()) + 1, int(planned.size()), arguments);
     QElapsedTimer timer;
     timer.start();
-    const QByteArray output = BackendTool::run(program, arguments, patienceMs);
-    calls[arguments] = { output, timer.elapsed() };
+    const QByteArray output = BackendTool::run(tool, arguments, patienceMs);
+    made[arguments] = { output, timer.elapsed() };
     return output;
 }
 
-ToolCall ToolCalls::find(const QStringList &arguments) const
+void ToolCalls::plan(const std::function<void()> &calls)
 {
-    const auto known = calls.find(arguments);
-    return known == calls.cend() ? ToolCall() : known->second;
+    planned.clear();
+    for (const auto &call : made)
+        planned.insert(call.first);
+    isPlanning = true;
+    calls();
+    isPlanning = false;
 }
 
-bool ToolCalls::isStartable() const
+const ToolCall *ToolCalls::find(const QStringList &arguments) const
 {
-    const QFileInfo file(program);
-    return file.isFile() && file.isExecutable();
+    const auto call = made.find(arguments);
+    return call == made.cend() ? nullptr : &call->second;
 }
 
 QString shownCall(const QStringList &arguments)

@@ -4,9 +4,12 @@
 #include "device/BackendTool.h"
 
 #include <QStringList>
+#include <QVariantList>
 
 #include <functional>
 #include <map>
+#include <optional>
+#include <set>
 
 /// One run of the tool.
 struct ToolCall {
@@ -14,33 +17,40 @@ struct ToolCall {
     qint64 durationMs = 0;
 };
 
-/// Runs the tool once for each list of arguments and keeps its answer.
+/// Runs the tool once for each list of arguments and keeps what it prints.
 class ToolCalls {
 public:
-    /// Called before each run with the number of the run, counted from 1.
-    using Progress = std::function<void(int number, const QStringList &arguments)>;
+    /// Called before a run: its number from 1, the number of all runs, the arguments.
+    using Progress = std::function<void(int number, int count, const QStringList &arguments)>;
 
-    /// A tool that still runs after `patienceMs` is killed; one without a name is never run.
     explicit ToolCalls(
-        QString tool, Progress progress = {}, int patienceMs = BackendTool::patienceMs);
+        QString tool, Progress progress = {}, int patienceMs = BackendTool::patienceMs)
+        : tool(std::move(tool))
+        , patienceMs(patienceMs)
+        , progress(std::move(progress))
+    {
+    }
 
-    /// What the tool prints for `arguments`.
+    /// What the tool prints for `arguments`; nothing while `plan` runs.
     QByteArray run(const QStringList &arguments);
 
-    /// The run with `arguments`; empty when there was none.
-    ToolCall find(const QStringList &arguments) const;
+    /// Counts the runs that `calls` will make, for the progress. The tool is not run.
+    void plan(const std::function<void()> &calls);
 
-    const std::map<QStringList, ToolCall> &all() const { return calls; }
-    const QString &tool() const { return program; }
-    bool isStartable() const;
-    bool wasKilled(const ToolCall &call) const { return call.durationMs >= patienceMs; }
+    /// The run with `arguments`, null when there was none.
+    const ToolCall *find(const QStringList &arguments) const;
+
+    const std::map<QStringList, ToolCall> &all() const { return made; }
+
+    const QString tool;
+    const int patienceMs; ///< a tool that still runs then is killed
 
 private:
-    const QString program;
     const Progress progress;
-    const int patienceMs;
-    std::map<QStringList, ToolCall> calls;
+    bool isPlanning = false;
+    std::set<QStringList> planned;
+    std::map<QStringList, ToolCall> made;
 };
 
-/// `arguments` on one line; one that has blanks itself is in quotes.
+/// `arguments` on one line, those with blanks in quotes.
 QString shownCall(const QStringList &arguments);

@@ -20,8 +20,9 @@ void warnOf(const QScriptValue &error)
 
 } // namespace
 
-ScriptHelper::ScriptHelper(const DevicePaths &paths)
+ScriptHelper::ScriptHelper(const DevicePaths &paths, ToolRunner runTool)
     : paths(paths)
+    , runTool(std::move(runTool))
 {
 }
 

@@ -9,13 +9,19 @@
 #include <QStringList>
 #include <QVariantList>
 
+#include <functional>
+
+/// Runs the backend tool with arguments and returns what it printed on standard output.
+using ToolRunner = std::function<QByteArray(const QStringList &)>;
+
 /// Evaluates the web interface's settings script and runs the backend tool. The engine lives as
 /// long as the helper; every script value handed out belongs to it.
 class ScriptHelper : public QObject {
 public:
     /// \name The menu definition (bodies in menu/ScriptHelper.cpp)
     /// @{
-    explicit ScriptHelper(const DevicePaths &paths);
+    /// `runTool` takes the place of running the tool at its path.
+    explicit ScriptHelper(const DevicePaths &paths, ToolRunner runTool = {});
 
     /// The text of the settings script; empty when the file cannot be read.
     QString settingsScript() const;
@@ -60,4 +66,5 @@ private:
     QVariantList lastResult;
     QScriptEngine engine;
     const DevicePaths paths;
+    const ToolRunner runTool;
 };

@@ -28,8 +28,8 @@ QVariant noCount(const char *reason)
 
 } // namespace
 
-TreeViewItemHandler::TreeViewItemHandler(const DevicePaths &paths)
-    : script(paths)
+TreeViewItemHandler::TreeViewItemHandler(const DevicePaths &paths, const ToolRunner &runTool)
+    : script(paths, runTool)
     , propertyNames(script.scriptEngine())
 {
 }

@@ -22,7 +22,7 @@ public:
     /// The access level while the electronic seal is open.
     static constexpr int openAccessLevel = 6;
 
-    explicit TreeViewItemHandler(const DevicePaths &paths);
+    explicit TreeViewItemHandler(const DevicePaths &paths, const ToolRunner &runTool = {});
 
     /// Loads the menu definition, asks the backend for the numbers of compartments and meters, and
     /// builds the tree. The tree must not outlive the handler. A definition that is missing or
@@ -79,6 +79,13 @@ public:
 
     /// \name Values in the backend (bodies in backend/MenuValueQueries.cpp)
     /// @{
+    /// The tool's arguments: to ask for the seal's state, for the interfaces of `kind` (`tagNumber`
+    /// counts for TAG only), and for the values of the children; none where there is nothing to
+    /// ask.
+    static QStringList sealQuery();
+    static QStringList listQuery(InterfaceKind kind, int tagNumber);
+    QStringList readArguments(const TreeViewItem &item) const;
+
     /// Asks for the seal's state and sets the access level by it: 6 while the seal is open, else 4.
     void updateAccessLevel();
 

@@ -22,9 +22,8 @@ QString resolveMarks(QString text)
         return text.remove(latitudePrefix).remove(longitudePrefix).remove(coordinateSeparator);
     if (text.startsWith(dateTimePrefix))
         return translate(text.remove(dateTimePrefix));
-    if (text.startsWith(i18nPrefix))
-        return translate(text.remove(i18nPrefix));
-    return text;
+    const QString key = markedKey(text);
+    return key.isEmpty() ? text : translate(key);
 }
 
 class MenuRenderer {
@@ -126,6 +125,14 @@ private:
 };
 
 } // namespace
+
+QString markedKey(const QString &text)
+{
+    if (!text.startsWith(i18nPrefix) || text.startsWith(latitudePrefix)
+        || text.startsWith(dateTimePrefix))
+        return {};
+    return QString(text).remove(i18nPrefix);
+}
 
 Frame menuLines(
     const TreeViewItemHandler &handler, const TreeViewItem &item, int termColumns, QString *note)

@@ -9,6 +9,10 @@
 Frame menuLines(const TreeViewItemHandler &handler, const TreeViewItem &item, int termColumns,
     QString *note = nullptr);
 
+/// The translation key that the backend marks as such in the text of a value; empty without a mark,
+/// and for dates and positions, which have marks of their own.
+QString markedKey(const QString &text);
+
 /// The column, from 0, at which values begin.
 constexpr int valueColumn(int termColumns)
 {

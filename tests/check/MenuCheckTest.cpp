@@ -1,6 +1,9 @@
 #include "check/MenuCheck.h"
+#include "check/DeviceCheck.h"
 #include "check/FileFault.h"
 #include "locale/CTranslationHandler.h"
+#include "preview/SimulatedDevice.h"
+#include "terminal/PtySession.h"
 #include "tests/support/FakeDevice.h"
 #include "tests/support/RunProgram.h"
 
@@ -11,6 +14,20 @@ static const char translations[] = R"({"a": "A", "b": "B", "r": "R", "smile": "a
     "compartment": "C", "btnParameterTruckSetup": "T", "btnParameterInterfacesCanFasWm": "M",
     "truck_setup_compartments": "N", "interfaces_can_fas_wm_fpi": "N",
     "wide": "0123456789012345678901234567890123456789012345678901"})";
+
+// What the tool prints for the words of a call; nothing for others.
+static QByteArray commandsFor(const QVariantMap &answers)
+{
+    QByteArray commands = "case \"$*\" in\n";
+    for (auto answer = answers.cbegin(); answer != answers.cend(); ++answer) {
+        commands += '\'' + answer.key().toUtf8() + "') cat <<'END'\n"
+            + answer.value().toString().toUtf8() + "\nEND\n;;\n";
+    }
+    return commands + "esac";
+}
+
+static const char oneField[] = "[{css: 'r', screens: [{css: 'a'}]},"
+                               "{css: 'a', 'ajax-read': 'r', screens: [{i18n: 'a'}]}]";
 
 class MenuCheckTest : public QObject {
     Q_OBJECT
@@ -25,6 +42,16 @@ class MenuCheckTest : public QObject {
         return menuProblems(menu);
     }
 
+    QStringList deviceProblemsOf(const QByteArray &script, int patienceMs = BackendTool::patienceMs)
+    {
+        QStringList problems = problemsOf(script);
+        ToolCalls calls(device.paths().backendTool, {}, patienceMs);
+        LoadedMenu menu(device.paths(),
+            [&calls](const QStringList &arguments) { return calls.run(arguments); });
+        readDevice(menu, calls, DeviceExtent::Everything);
+        return problems + deviceProblems(menu, calls);
+    }
+
     // Severity and name of each.
     static QStringList namesOf(const QStringList &problems)
     {
@@ -34,6 +61,20 @@ class MenuCheckTest : public QObject {
                 + problem.section(QLatin1Char('['), -1).chopped(1);
         }
         return names;
+    }
+
+    QString root() const { return QStringLiteral("--web-root=") + device.paths().webRoot; }
+    QString tool() const { return QStringLiteral("--tool=") + device.paths().backendTool; }
+    const QString tree = QStringLiteral("--tree");
+
+    // For the program, which finds the script below the web root.
+    void setMenu(const QByteArray &screens)
+    {
+        const QString script = device.paths().webRoot + QStringLiteral("/scripts/settings.js");
+        device.setScript("Settings = {setupStructureVersion: 1, settings: " + screens + "}");
+        QFile::remove(script);
+        QVERIFY(QDir().mkpath(QFileInfo(script).path())
+            && QFile::rename(device.paths().settingsScript, script));
     }
 
     static QByteArray run(const QStringList &arguments)
@@ -57,6 +98,7 @@ private slots:
         QTest::addColumn<int>("number");
         QTest::addColumn<QString>("problems");
         QTest::addColumn<QString>("says");
+        QTest::addColumn<QVariantMap>("answers");
         QScriptEngine engine;
         const QScriptValue rows =
             engine.evaluate(QString::fromUtf8(faults) + QLatin1String(";rows"));
@@ -67,7 +109,7 @@ private slots:
             QTest::newRow(row[QStringLiteral("name")].toByteArray())
                 << number
                 << row[QStringLiteral("problems")].toStringList().join(QLatin1String(", "))
-                << row[QStringLiteral("says")].toString();
+                << row[QStringLiteral("says")].toString() << row[QStringLiteral("answers")].toMap();
         }
     }
     void findsFaults()
@@ -75,33 +117,75 @@ private slots:
         QFETCH(int, number);
         QFETCH(QString, problems);
         QFETCH(QString, says);
-        const QStringList lines = problemsOf(
-            faults + "\nSettings.settings = rows[" + QByteArray::number(number) + "].screens;");
+        QFETCH(QVariantMap, answers);
+        device.setTool(commandsFor(answers));
+        const QByteArray script =
+            faults + "\nSettings.settings = rows[" + QByteArray::number(number) + "].screens;";
+        const QStringList lines = answers.isEmpty() ? problemsOf(script) : deviceProblemsOf(script);
         const QString report = lines.join(QLatin1Char('\n'));
         QCOMPARE(namesOf(lines).join(QLatin1String(", ")), problems);
         QVERIFY2(report.contains(says), qPrintable(report));
-        QCOMPARE(device.takeCalls(), QStringList());
+        // Each question is asked once, and nothing is written.
+        QStringList calls = device.takeCalls();
+        QCOMPARE(calls.removeDuplicates(), 0);
+        QCOMPARE(calls.filter(QStringLiteral("enable_if")) + calls.filter(QStringLiteral("[")),
+            QStringList());
+        QCOMPARE(calls.isEmpty(), answers.isEmpty());
+    }
+
+    void survivesTools_data()
+    {
+        QTest::addColumn<QByteArray>("commands");
+        QTest::addColumn<int>("patienceMs");
+        QTest::addColumn<QString>("problems");
+        QTest::newRow("crash") << QByteArray("kill -SEGV $$") << BackendTool::patienceMs
+                               << "warning no-tool-version, error no-array, error no-array";
+        QTest::newRow("hang")
+            << QByteArray("echo '[1]'; exec sleep 60") << 300
+            << "error hanging-call, error hanging-call, error seal-status, error hanging-call";
+        QTest::newRow("missing") << QByteArray() << BackendTool::patienceMs
+                                 << "error no-tool, error no-tool, error no-tool";
+        QTest::newRow("slow") << QByteArray("[ $1 = r ] && sleep 1.1; echo '[\"i18n_wm_true\"]'")
+                              << BackendTool::patienceMs
+                              << "warning slow-call, warning untranslated";
+    }
+    void survivesTools()
+    {
+        QFETCH(QByteArray, commands);
+        QFETCH(int, patienceMs);
+        device.setTool(commands);
+        if (commands.isEmpty())
+            QFile::remove(device.paths().backendTool);
+        QTEST(namesOf(deviceProblemsOf("Settings = {setupStructureVersion: 1, settings: "
+                              + QByteArray(oneField) + "}",
+                          patienceMs))
+                  .join(QLatin1String(", ")),
+            "problems");
     }
 
     void findsFaultsOfScripts_data()
     {
+        QTest::addColumn<QByteArray>("script");
         QTest::addColumn<QString>("report");
-        const auto row = [](const char *script, const char *report) {
-            QTest::newRow(script) << QString::fromLatin1(report);
+        const auto row = [](const char *name, const QByteArray &script, const char *report) {
+            QTest::newRow(name) << script << QString::fromLatin1(report);
         };
-        row("Settings = {settings: [{css: 'r'}], setupStructureVersion: 1}", "");
-        row("Settings = {settings: [{css: 'r'}]}", "it has no \"setupStructureVersion\"");
-        row("Settings = {settings: [{css: 'r'}], checkIgnore: 'no-version'}", "");
-        row("Settings = {\nsettings: [", "line 2, column 11: Syntax");
-        row("foo.bar(", "line 1, column 8: Syntax error");
-        row("Settings = {settings: [{css: 'r'}]};\nnobody.calls()", "line 2: ReferenceError");
-        row("Settings = {settings: [{css: 'r'}]}; throw 'late'", "line 1: late");
-        row("Settings = {}", "defines no screens");
+        const QByteArray good = "Settings = {settings: [{css: 'r'}], setupStructureVersion: 1}";
+        row("good", good, "");
+        row("no version", "Settings = {settings: [{css: 'r'}]}",
+            "has no \"setupStructureVersion\"");
+        row("no version, allowed", "Settings = {settings: [{css: 'r'}], checkIgnore: 'no-version'}",
+            "");
+        row("bracket missing", "Settings = {\nsettings: [", "line 2, column 11: Syntax error");
+        row("unknown name", good + ";\nnobody.calls()", "line 2: ReferenceError");
+        row("late throw", good + "; throw 'late'", "line 1: late");
+        row("no screens", "Settings = {}", "defines no screens");
     }
     void findsFaultsOfScripts()
     {
+        QFETCH(QByteArray, script);
         QFETCH(QString, report);
-        const QStringList lines = problemsOf(QTest::currentDataTag());
+        const QStringList lines = problemsOf(script);
         QCOMPARE(lines.size(), report.isEmpty() ? 0 : 1);
         QVERIFY2(lines.join(QString()).contains(report), qPrintable(lines.join(QString())));
     }
@@ -135,25 +219,59 @@ private slots:
 
     void runsAsProgram()
     {
-        const QString root = QStringLiteral("--web-root=") + device.paths().webRoot;
         const QString demo = QStringLiteral("--web-root=" DEMO_ROOT);
-        const QString tree = QStringLiteral("--tree");
         QCOMPARE(run({ demo }), QByteArray("0 "));
         QVERIFY(run({ demo, tree }).contains("\n             *  Prewarning in percent\n"));
-        QCOMPARE(run({ QStringLiteral("--bad") }) + run({ root }), QByteArray("2 2 "));
-        QCOMPARE(run({ demo, QStringLiteral("bad") }), QByteArray("2 "));
+        QCOMPARE(run({ demo, QStringLiteral("--bad") }) + run({ demo, QStringLiteral("bad") })
+                + run({ demo, QStringLiteral("--tool=x") }),
+            QByteArray("2 2 2 "));
 
-        QDir directory(device.paths().webRoot);
-        device.setScript(
-            "Settings = {setupStructureVersion: 1, settings: [{css: 'r', screens: "
-            "[{css: 'a'}]}, {css: 'a', 'ajax-read': 'r', screens: [{i18n: 'smile'}]}]}");
-        QVERIFY(directory.mkdir(QStringLiteral("scripts"))
-            && directory.rename(
-                QStringLiteral("settings.js"), QStringLiteral("scripts/settings.js")));
-        QCOMPARE(run({ root }).left(19) + run({ root, tree }),
+        setMenu("[{css: 'r', screens: [{css: 'a'}]},"
+                "{css: 'a', 'ajax-read': 'r', screens: [{i18n: 'smile'}]}]");
+        QCOMPARE(run({ root() }).left(19) + run({ root(), tree }),
             QByteArray("1 warning: a: A > a0 ->  A\n +   -  a?\n"));
-        QVERIFY(directory.remove(QStringLiteral("locales/en/translation.json"))
-            && run({ root }) == QByteArray("2 "));
+        QVERIFY(QFile::remove(device.paths().webRoot + QStringLiteral("/scripts/settings.js")));
+        QCOMPARE(run({ root() }), QByteArray("2 "));
+    }
+
+    void recordsDevice()
+    {
+        const QStringList record { root(), tree, QStringLiteral("--device"), tool() };
+        setMenu(oneField);
+        device.setTool("echo '[\"i18n_k\"]'");
+        QCOMPARE(run(record), "0 ->  A\n +   -  A" + QByteArray(45, ' ') + "K\n");
+        device.setTool("[ $1 = r ] || echo '[1]'");
+        QCOMPARE(run(record), QByteArray("1 ->  A\n +   -  A\n"));
+    }
+
+    void findsNothingOnDemo()
+    {
+        const QTemporaryDir state;
+        const QString web = QStringLiteral(DEMO_ROOT);
+        QVERIFY(makeSimulatedDevice(state.path(), QStringLiteral(DEMO), DevicePaths { web },
+            QStringLiteral(DEMO_VALUES), {}));
+        QCOMPARE(run({ QStringLiteral("--web-root=") + web, QStringLiteral("--device"),
+                     QStringLiteral("--tool=") + simulatedTool(state.path()) }),
+            QByteArray("0 "));
+    }
+
+    void endsAtOnce()
+    {
+        setMenu(oneField);
+        device.setTool("echo $$ > \"${0%/*}/pid\"; exec sleep 60");
+        QFile pid(device.paths().webRoot + QStringLiteral("/pid"));
+        PtySession session;
+        session.setStandardError(QStringLiteral("/dev/tty"));
+        QVERIFY(session.start(
+            QStringLiteral(CHECKER), { root(), QStringLiteral("--device"), tool() }, 24, 80));
+        QVERIFY(session.waitForText(QStringLiteral("1 of 3: get_menu_electronic_seal_status")));
+        QVERIFY(
+            session.waitFor([&pid] { return pid.size() > 1; }) && pid.open(QIODevice::ReadOnly));
+        QVERIFY(session.send("\x03"));
+        QCOMPARE(session.waitForExit(), (ExitStatus { ExitStatus::Killed, SIGINT }));
+        QFile tool(QStringLiteral("/proc/%1/cmdline").arg(pid.readAll().trimmed().toInt()));
+        QVERIFY(session.waitFor(
+            [&tool] { return !tool.open(QIODevice::ReadOnly) || tool.readAll().isEmpty(); }));
     }
 };
 

@@ -1,29 +1,32 @@
 /*
  * Menu definitions, and what the checker reports of them: the name of the row, the screens, severity
  * and name of each problem in their order, and a part of the report's text where it matters. Rows
- * without problems are the neighbours of those that have some.
+ * without problems are the neighbours of those that have some. The rows of devices also have the
+ * backend tool's answers by the words of the call: texts are printed as they are.
  */
 var Settings = { setupStructureVersion: 1 }, rows = [];
 
 function row(name, screens, problems, says) {
     rows.push({ name: name, screens: screens, problems: problems || [], says: says || "" });
 }
+function device(name, screens, answers, problems, says) {
+    row(name, screens, problems, says);
+    var texts = rows[rows.length - 1].answers = { "--version": "1.0/2" };
+    texts["get_menu_electronic_seal_status"] = '["i18n_wm_true"]';
+    for (var words in answers)
+        texts[words] = typeof answers[words] == "string" ? answers[words] : JSON.stringify(answers[words]);
+}
 function extend(target, more) {
-    for (var key in more)
-        target[key] = more[key];
+    for (var key in more) target[key] = more[key];
     return target;
 }
-function field(kind, more) {
-    return extend(kind ? { i18n: "a", inputType: kind } : { i18n: "a" }, more);
-}
+function field(kind, more) { return extend(kind ? { i18n: "a", inputType: kind } : { i18n: "a" }, more); }
 function screen(css, entries, more) {
     return extend({ css: css, "ajax-read": "r", "ajax-write": "w", screens: entries }, more);
 }
-// The start page leads to all the others.
-function menu() {
+function menu() { // a start page that leads to all the others
     var others = [].slice.call(arguments);
-    var start = { css: "r", screens: others.map(function (other) { return { css: other.css }; }) };
-    return [start].concat(others);
+    return [{ css: "r", screens: others.map(function (other) { return { css: other.css }; }) }].concat(others);
 }
 function a(entries, more) { return menu(screen("a", entries, more)); }
 function one(kind, more) { return a([field(kind, more)]); }
@@ -150,3 +153,87 @@ row("control character", one("", { i18n: "x%1\n%3" }), ["warning untranslated", 
 row("character beyond Latin-1", list(["smile"]), ["warning unshowable"], "U+263A");
 row("empty label", one("", { i18n: "" }), ["warning no-label"]);
 row("label that reaches the values", one("", { i18n: "wide" }), ["warning wide-label"], "6 columns");
+
+/* ---- calls of the tool ---- */
+device("answer that fits", a([field(), field("separator"), field("button"), field()]), { r: [1, "x"] });
+device("empty answer", one(), { r: "" }, ["error no-array"], "<r> printed nothing");
+device("cut answer", one(), { r: "[1" }, ["error no-array"], "no JSON, line 2, column 1");
+device("object", one(), { r: {} }, ["error no-array"], "JSON that is no array");
+device("missing value", a([field(), field("button"), field("", { i18n: "b" })]), { r: [1] },
+    ["error few-values"], '1 values for 2 entries: from "B" on');
+device("surplus value", one(), { r: [1, 2] }, ["error many-values"], "2 values for 1 entries");
+device("hidden screen", a([field("boolean")], { remote: 0 }), { r: [1] });
+device("missing value of a hidden screen", a([field()], { remote: 0 }), { r: [] }, ["error few-values"]);
+device("unknown seal status", one(), { r: [1], get_menu_electronic_seal_status: [false] },
+    ["error seal-status"], "is [false]");
+device("open seal", one(), { r: [1], get_menu_electronic_seal_status: ["i18n_wm_false"] });
+device("no version", one(), { r: [1], "--version": "/1.0" }, ["warning no-tool-version"]);
+
+/* ---- numbers of compartments ---- */
+device("two compartments", tanks([count]), { r: [2], "r 0": [1], "r 1": [1] });
+device("number without its entry", tanks([field()]), { r: [1] }, ["error no-count"]);
+device("missing value of the second", tanks([count]), { r: [2], "r 0": [1], "r 1": [] },
+    ["error few-values"], "kModifyDo: K > C 2: ");
+[-1, 1000, 1.5, true, "x", null].forEach(function (number) {
+    device("number " + number, tanks([count]), { r: [number], "r 0": [1], "r 1": [1] }, ["error count-value"],
+        "is " + JSON.stringify(number));
+});
+
+/* ---- values: of a field, each of the list in turn ---- */
+function values(kind, more, list, problem, says) {
+    list.forEach(function (value) {
+        device(kind + " " + JSON.stringify(more) + " of " + JSON.stringify(value), one(kind, more), { r: [value] },
+            problem && [problem], says);
+    });
+}
+var codes = { values: ["a", "b"], dbValues: [1, "B"] }, places = { values: ["a", "b"] };
+values("dropdown", codes, [1, "1", "B"]);
+values("dropdown", codes, ["x", "b", null, 2], "error list-value", 'is none of its "dbValues"');
+values("selectlabel", places, [0, "1", 1.4]);
+values("selectlabel", places, [2, -1, "x", true, null, 5000000000], "error list-value", "from 0 to 1");
+values("selectlabel", { integer: true }, [7]);
+values("boolean", {}, [true, false]);
+values("boolean", {}, [1, "true", null], "error boolean-value", "is no truth value");
+values("slider", { min: -1, max: 9, step: 1 }, [-1, 9]);
+values("slider", { min: -1, max: 9, step: 1 }, [-2, 10, "x", null], "error slider-value", "no number from -1 to 9");
+values("edit", { validation: "C3" }, ["abc", 123, null]);
+values("edit", { validation: "C3" }, ["abcd", 1000000.0], "error edit-value", 'its rule "C3" refuses the value ');
+values("edit", { validation: "C3", remote: 2 }, ["abcd"]);
+values("edit", { validation: "N3", range: [0, 500] }, [0, "500"]);
+values("edit", { validation: "N3", range: [0, 500] }, [501, -1, "x", null], "error edit-value");
+values("edit", { validation: "IPV4", checkIgnore: "dead-rule" }, ["10.0.0.1"]);
+values("label", {}, ["i18n_a", "i18n_datetime_today", "i18n_gps_lat_48 N", "\u00e4", 1.5, null]);
+values("label", {}, ["i18n_none"], "warning untranslated", 'the value "none" has no translation');
+values("label", {}, ["\u263a"], "warning unshowable", "U+263A");
+values("input", {}, [[1, "x"], {}], "warning unshowable", "shows nothing");
+values("label", { checkIgnore: "unshowable" }, [{}]);
+
+/* ---- interfaces: the answer to their query, for TAG to both of them ---- */
+function numbers(count) { return Array(count + 1).join("1").split("").map(Number); }
+function diagnose(css, answer, says, tag) {
+    var answers = {}, words = "get_menu_service_diagnose_" + css.toLowerCase() + "_interfaces";
+    answers[words + (css == "Tag" ? " 0" : "")] = answer;
+    answers[words + " 1"] = tag;
+    device(css + " " + JSON.stringify([answer, tag]), menu({ css: "btnServiceDiagnose" + css + "Interfaces",
+        i18n: "a", type: "status", remote: 1 }), answers, says && ["error interface-answer"], says);
+}
+diagnose("Spd", [["1", "A", numbers(20)], ["1", "A", []], "off"]);
+diagnose("Spd", []);
+diagnose("Spd", ["a", "b", "c", "d", "e"], "more than 4 interfaces");
+diagnose("Spd", [["1", "A", numbers(21)]], "interface 1: element 3 is no array of up to 20 numbers");
+diagnose("Spd", ["off", ["1", "A", ["x"]]], "interface 2: element 3");
+diagnose("Spd", [["1", "A"]], "element 3");
+diagnose("Spd", [[[1], "A", []]], "begin with two versions");
+diagnose("Spd", [null], "neither an array nor a text");
+diagnose("IO", [["1", "A", numbers(2), numbers(8)]]);
+diagnose("IO", [["1", "A", numbers(3), []]], "up to 2 numbers");
+diagnose("Wetleg", [["1", "A", numbers(6), numbers(2)]]);
+diagnose("Wetleg", [["1", "A", numbers(6), numbers(3)]], "element 4 is no array of up to 2");
+diagnose("Tag", ["1", "A"], "", [1, "x", null]);
+diagnose("Tag", [{}], "versions or a message", []);
+diagnose("Tag", ["off"], "up to 9 texts and numbers", [[1]]);
+diagnose("Tag", ["1", "A"], "up to 9", numbers(10));
+diagnose("As", ["1", "A", [["s", "p"]]]);
+diagnose("As", ["off"]);
+diagnose("As", ["1", "A", ["s"]], "[sensor, product]");
+diagnose("Level", []);

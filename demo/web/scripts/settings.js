@@ -170,7 +170,7 @@ function productFields() {
     var fields = [];
     var i;
     for (i = 1; i <= 6; i += 1) {
-        fields.push(product("products_slot_" + i));
+        fields.push(product("products_slot_" + i).checkIgnoring("list-value"));
         fields.push(text("products_short_name_" + i, 8).access(6));
     }
     return fields;
@@ -352,7 +352,7 @@ Settings.add(
     page("btnParameterCompartmentsModifyDo", [
         text("compartment_name", 12),
         number("compartment_capacity", 5, 0, 12000).access(6),
-        product("compartment_product"),
+        product("compartment_product").checkIgnoring("list-value"),
         dropdown("compartment_coupling", ["coupling_api", "coupling_tw", "coupling_guillemin"])
             .access(6),
         slider("compartment_prewarning", 80, 98, 2),
@@ -369,7 +369,7 @@ Settings.add(
         browserEdit("calibration_factor", "N5.2", { range: [0, 2] }).access(6),
         dropdown("calibration_table", ["table_linear", "table_dipstick", "table_3d"], [1, 2, 5])
             .access(6),
-        label("calibration_points"),
+        label("calibration_points").checkIgnoring("unshowable"),
         button("calibration_start").access(6)
     ], readsAndWrites("compartment_calibration")),
 
@@ -525,8 +525,8 @@ Settings.add(
         browserEdit("telematics_licence", "FEAT"),
         onOff("telematics_roaming"),
         separator("telematics_section_state"),
-        label("telematics_symbol"),
-        label("telematics_gate"),
+        label("telematics_symbol").checkIgnoring("unshowable"),
+        label("telematics_gate").checkIgnoring("unshowable"),
         label("telematics_message"),
         label("telematics_signal"),
         label("telematics_loss"),
@@ -535,7 +535,7 @@ Settings.add(
         label("telematics_gain"),
         label("telematics_bytes"),
         label("telematics_balance"),
-        label("telematics_queue"),
+        label("telematics_queue").checkIgnoring("unshowable"),
         label("telematics_last_error"),
         label("telematics_peer")
     ], readsAndWrites("interfaces_telematics"))

@@ -1,0 +1,194 @@
+#include "check/DeviceCheck.h"
+
+#include "check/DeviceFindings.h"
+#include "check/QuietMessages.h"
+#include "check/Report.h"
+#include "menu/CountEntry.h"
+#include "menu/TreeBuilder.h"
+
+namespace {
+
+const QStringList versionCall { QStringLiteral("--version") };
+
+// Each of these is asked for; the number counts for TAG only.
+QVector<int> tagNumbers(InterfaceKind kind)
+{
+    return kind == TagInterface ? QVector<int> { 0, 1 } : QVector<int> { 0 };
+}
+
+class DeviceCheck {
+public:
+    DeviceCheck(const LoadedMenu &menu, const ToolCalls &calls, Report &report)
+        : handler(menu.handler)
+        , menu(menu)
+        , calls(calls)
+        , report(report)
+    {
+    }
+
+    void run()
+    {
+        report.add(calls.tool, versionFindings(calls, versionCall));
+        checkSeal();
+        for (const CountEntry &entry : { compartmentCount, meterCount })
+            checkCount(entry);
+        visit(*menu.root, true);
+    }
+
+private:
+    void checkSeal()
+    {
+        const QStringList call = TreeViewItemHandler::sealQuery();
+        report.add(calls.tool, callFindings(calls, call));
+        if (const auto answer = answerOf(*calls.find(call)))
+            report.add(calls.tool, sealFindings(*answer));
+    }
+
+    void checkCount(const CountEntry &entry)
+    {
+        const int screen = menu.screens.find(QLatin1String(entry.screen));
+        if (screen < 0)
+            return;
+        const TreeViewItem item(menu.screens.at(screen), {}, nullptr, -1, 0);
+        const int place = placeOf(entry, item.definition, handler.names());
+        const QStringList call(handler.readBinding(item).value_or(QString()));
+        if (place < 0 || !calls.find(call))
+            return;
+        report.add(item, callFindings(calls, call));
+        if (const auto answer = answerOf(*calls.find(call)))
+            report.add(item, countFindings(*answer, place, QLatin1String(entry.field)));
+    }
+
+    void visit(const TreeViewItem &item, bool isShown)
+    {
+        isShown = isShown && (!item.parentItem || handler.isVisible(item));
+        const ToolCall *const call = calls.find(handler.readArguments(item));
+        if (call && item.parentItem && !item.children.empty())
+            checkScreen(item, *call, isShown);
+        if (isShown && item.children.empty() && handler.diagnoseScreen(item) != NoInterface)
+            checkInterface(item);
+        for (const auto &child : item.children)
+            visit(*child, isShown);
+    }
+
+    void checkScreen(const TreeViewItem &screen, const ToolCall &call, bool isShown)
+    {
+        report.add(screen, callFindings(calls, handler.readArguments(screen)), screen.index);
+        const auto answer = answerOf(call);
+        if (!answer)
+            return;
+        report.add(screen, lengthFindings(handler, screen, *answer), screen.index);
+        int place = 0;
+        for (const auto &child : screen.children) {
+            if (handler.isValueBearing(*child) && place++ < answer->size() && isShown
+                && handler.isVisible(*child))
+                report.add(*child, storedValueFindings(handler, *child), child->index);
+        }
+    }
+
+    void checkInterface(const TreeViewItem &item)
+    {
+        const InterfaceKind kind = handler.diagnoseScreen(item);
+        for (const int tagNumber : tagNumbers(kind)) {
+            const QStringList call = TreeViewItemHandler::listQuery(kind, tagNumber);
+            if (!calls.find(call))
+                continue;
+            report.add(item, callFindings(calls, call));
+            if (const auto answer = answerOf(*calls.find(call)))
+                report.add(item, interfaceFindings(kind, tagNumber, *answer));
+        }
+    }
+
+    const TreeViewItemHandler &handler;
+    const LoadedMenu &menu;
+    const ToolCalls &calls;
+    Report &report;
+};
+
+// What the interface screens below `item` ask for when they are opened.
+void readInterfaces(TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    if (item.parentItem && !handler.isVisible(item))
+        return;
+    const InterfaceKind kind = handler.diagnoseScreen(item);
+    // The screen of the Level interfaces is a placeholder.
+    if (item.children.empty() && kind != LevelInterface) {
+        for (const int tagNumber : tagNumbers(kind))
+            handler.interfaceList(kind, tagNumber);
+    }
+    for (const auto &child : item.children)
+        readInterfaces(handler, *child);
+}
+
+void readMenu(LoadedMenu &menu, DeviceExtent extent)
+{
+    expandAll(*menu.root);
+    menu.handler.refreshValues(*menu.root);
+    if (extent == DeviceExtent::Everything) {
+        menu.handler.scriptHelper().run(versionCall);
+        readInterfaces(menu.handler, *menu.root);
+    }
+}
+
+QString summaryLine(const QStringList &arguments, qint64 durationMs)
+{
+    return QStringLiteral("%1 s  %2")
+        .arg(double(durationMs) / 1000, 9, 'f', 3)
+        .arg(shownCall(arguments));
+}
+
+} // namespace
+
+void readDevice(LoadedMenu &menu, ToolCalls &calls, DeviceExtent extent)
+{
+    const QuietMessages quiet;
+    calls.plan([&] {
+        menu.handler.readCounts(menu.screens);
+        readMenu(menu, extent);
+    });
+    // The handler answers a repeated read from memory, where the last one is still a planned one.
+    menu.handler.updateAccessLevel();
+    menu.repeatScreens(menu.handler.readCounts(menu.screens));
+    calls.plan([&] { readMenu(menu, extent); });
+    readMenu(menu, extent);
+}
+
+QStringList deviceProblems(LoadedMenu &menu, const ToolCalls &calls)
+{
+    // What can be changed at all is to be right.
+    menu.handler.setAccessLevel(TreeViewItemHandler::openAccessLevel);
+    Report report(menu);
+    DeviceCheck(menu, calls, report).run();
+    return report.lines();
+}
+
+QStringList failedCalls(const ToolCalls &calls)
+{
+    QStringList lines;
+    for (const auto &call : calls.all()) {
+        for (const Finding &finding : callFindings(calls, call.first)) {
+            if (finding.severity == Severity::Error)
+                lines += finding.text;
+        }
+    }
+    return lines;
+}
+
+QStringList callSummary(const ToolCalls &calls)
+{
+    constexpr size_t shownCalls = 5;
+    std::multimap<qint64, QStringList, std::greater<>> slowest;
+    qint64 total = 0;
+    for (const auto &call : calls.all()) {
+        slowest.emplace(call.second.durationMs, call.first);
+        total += call.second.durationMs;
+    }
+    QStringList lines { QStringLiteral("%1 calls in %2 s, the slowest:")
+                            .arg(slowest.size())
+                            .arg(double(total) / 1000, 0, 'f', 1) };
+    for (const auto &call : slowest) {
+        if (size_t(lines.size()) <= shownCalls)
+            lines += summaryLine(call.second, call.first);
+    }
+    return lines;
+}
