@@ -151,12 +151,15 @@ std::optional<int> readCommandLine(int argc, char **argv, PreviewOptions &option
     return std::nullopt;
 }
 
-// The path by which this program was started.
+// The path by which this program was started. Programs such as luit start others by a name without
+// the directory.
 QString ownPath(const char *program)
 {
     const QString name = QFile::decodeName(program);
-    return name.contains(QLatin1Char('/')) ? QFileInfo(name).absoluteFilePath()
-                                           : QStandardPaths::findExecutable(name);
+    if (name.contains(QLatin1Char('/')))
+        return QFileInfo(name).absoluteFilePath();
+    const QString found = QStandardPaths::findExecutable(name);
+    return found.isEmpty() ? QFile::symLinkTarget(QStringLiteral("/proc/self/exe")) : found;
 }
 
 void reportProblems(const DevicePaths &paths)

@@ -213,9 +213,11 @@ private slots:
     {
         const QDir webRoot(files.paths().webRoot);
         const auto messages = [&] {
-            return runProgram(QStringLiteral("/bin/sh"),
+            // As luit does it, the program gets its name without the directory.
+            return runProgram(QStringLiteral("/bin/bash"),
                 { QStringLiteral("-c"),
-                    QStringLiteral(PREVIEW " --idle 1 --web-root \"$0\" 2>&1 > /dev/null"),
+                    QStringLiteral("exec -a dravikon-preview " PREVIEW
+                                   " --idle 1 --web-root \"$0\" 2>&1 > /dev/null"),
                     webRoot.path() })
                 .output;
         };
