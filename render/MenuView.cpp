@@ -142,7 +142,7 @@ Frame menuLines(
     for (const TreeViewItem *above = item.parentItem; above; above = above->parentItem)
         ++depth;
     renderer.renderItemLines(item, depth, false);
-    if (note)
+    if (note && !renderer.note.isEmpty())
         *note = renderer.note;
     return renderer.lines;
 }

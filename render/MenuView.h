@@ -5,7 +5,7 @@
 #include "render/Frame.h"
 
 /// The lines of `item` and of what is shown below it, for a terminal of `termColumns` columns. The
-/// root of the tree has no line of its own. `note` is left with how the last list value was found.
+/// root of the tree has no line of its own. `note` takes how the last list value was found.
 Frame menuLines(const TreeViewItemHandler &handler, const TreeViewItem &item, int termColumns,
     QString *note = nullptr);
 

@@ -3,35 +3,88 @@
 
 #include <QtTest>
 
-// Rule and range ("-" for none), length of the field, texts behind their verdicts.
-static const char table[] = R"(C5 - 5 + +abcde +-.:x -abcdef; C - 0 - -a; C5x - 0 - -a; c5 - 0 - -a;
-C5.2 - 0 - -a; C-1 - -1 - -a; N3 0,500 3 +42 +0 +007 +500 --1 -501 -1000 -0042 -4a -4. -;
-N3 - 0 - -0 -42; N3 -50,-5 3 +-50 +-5 --51 --4 -0 --; N3 0.9,2.9 3 +0 +2 -3; N3 10 3 - -0 -5 -10;
-N , 0 - -0; N3 , 3 +0 -1 --1; N3x 0,9 0 - -0; N5.2 0,500 0 - -1 -1.5 -0.25; n3 0,9 0 - -1;
-N16 9007199254740990,9007199254740992 16 +9007199254740991 -9007199254740989; GPS9 - 0 - -48.1;
-N30 0,9 30 +9 -18446744073709551617; FEAT - 0 - -1 -FEAT; DATE.1 - 0 - -1.1.2020;
-IPV4 - 0 - -10.0.0.1; - 0,9 0 - -1)";
-
 class ValidationTest : public QObject {
     Q_OBJECT
 
-private slots:
-    void judges()
+    TreeViewItemHandler handler { DevicePaths() };
+    QScriptValue definition(const QString &attributes)
     {
-        TreeViewItemHandler handler { DevicePaths() };
         QScriptEngine &engine = handler.scriptHelper().scriptEngine();
-        const QString js = QStringLiteral("d = {}; if ('%1' != '-') d.validation = '%1';"
-                                          "if ('%2' != '-') d.range = eval('[%2]'); d");
-        for (const QString &row : QString::fromLatin1(table).split(QLatin1Char(';'))) {
-            const QStringList words = row.simplified().split(QLatin1Char(' '));
-            TreeViewItem item(engine.evaluate(js.arg(words[0], words[1])), {}, nullptr, -1, 0);
-            for (const QString &text : words.mid(3))
-                QVERIFY2(validateInput(handler, item, text.mid(1)) == (text[0] == QLatin1Char('+')),
-                    qPrintable(words[0] + text));
-            QVERIFY2(fieldLength(handler, item) == words[2].toInt(), qPrintable(words[0]));
-        }
+        return engine.evaluate(QStringLiteral("d = {%1}").arg(attributes));
     }
+
+private slots:
+    void judges_data();
+    void judges();
+    void hasLength_data();
+    void hasLength();
 };
+
+void ValidationTest::judges_data()
+{
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("accepted");
+    const auto row = [](const char *rule, const QByteArray &text, bool accepted) {
+        QTest::addRow("%s for \"%s\"", rule, text.constData())
+            << QString::fromLatin1(rule) << QString::fromLatin1(text) << accepted;
+    };
+    const auto judge = [row](const char *rule, const QByteArrayList &accepted,
+                           const QByteArrayList &refused) {
+        for (const QByteArray &text : accepted)
+            row(rule, text, true);
+        for (const QByteArray &text : refused)
+            row(rule, text, false);
+    };
+    judge("validation: 'C5'", { "", "a+-.:" }, { "abcdef" });
+    judge("validation: 'N3', range: [0, 500]", { "0", "42", "007", "500", "+5" },
+        { "", "-1", "501", "0042", "4a", "4.", "4 ", "-" });
+    judge("validation: 'N3', range: [-50, -5]", { "-50", "-5" }, { "-51", "-4", "0" });
+    judge("validation: 'N3', range: [0.9, 2.9]", { "0", "2" }, { "3" });
+    judge("validation: 'N3', range: []", { "0" }, { "1", "-1" });
+    judge("validation: 'N3', range: [-5]", { "-5", "0" }, { "1", "-6" });
+    judge("validation: 'N16', range: [9007199254740990, 1e16]", { "9007199254740991" },
+        { "9007199254740989" });
+    judge("validation: 'N30', range: [0, 1e30]", { "9223372036854775807" },
+        { "18446744073709551617" });
+    judge("validation: 'N5.2', range: [0, 500]", {}, { "1", "1.5" });
+    for (const char *refusing : { "range: [0, 9]", "validation: 'N3'", "validation: 'C'",
+             "validation: 'C5x'", "validation: 'C 5'", "validation: 'C5.2'", "validation: 'C-1'",
+             "validation: 'c5'", "validation: 'n3', range: [0, 9]", "validation: 'FEAT'",
+             "validation: 'DATE.1'", "validation: 'GPS9'", "validation: 'IPV4'" })
+        judge(refusing, {}, { "", "1" });
+}
+
+void ValidationTest::judges()
+{
+    QFETCH(QString, rule);
+    QFETCH(QString, text);
+    const TreeViewItem item(definition(rule), {}, nullptr, -1, 0);
+    QTEST(validateInput(handler, item, text), "accepted");
+}
+
+void ValidationTest::hasLength_data()
+{
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<int>("length");
+    const auto row = [](const char *name, const char *rule, int length) {
+        QTest::newRow(name) << QString::fromLatin1(rule) << length;
+    };
+    row("text", "validation: 'C5'", 5);
+    row("text without length", "validation: 'C'", 0);
+    row("number", "validation: 'N3', range: [0, 9]", 3);
+    row("number without range", "validation: 'N3'", 0);
+    row("decimal", "validation: 'N5.2', range: [0, 9]", 0);
+    row("reserved", "validation: 'GPS9'", 0);
+    row("beyond 32 bits", "validation: 'C4294967297'", 2147483647);
+    row("no rule", "", 0);
+}
+
+void ValidationTest::hasLength()
+{
+    QFETCH(QString, rule);
+    QTEST(fieldLength(handler, TreeViewItem(definition(rule), {}, nullptr, -1, 0)), "length");
+}
 
 QTEST_GUILESS_MAIN(ValidationTest)
 #include "ValidationTest.moc"
