@@ -1,73 +1,129 @@
+// What an item's definition, and the entry that refers to it, say about the item.
 #include "menu/TreeViewItemHandler.h"
-#include "tests/support/FakeDevice.h"
 
 #include <QtTest>
 
-// A field, or "screen < entry" with the entry that refers to it; behind "=>" its label in quotes,
-// "v" when visible, "e" with an access level when editable, the numbers of its words, its numbers.
-static const char table[] = R"(=>'' v
-i18n:'own' < i18n:'e' =>'own' v | i18n:'',css:'a' < i18n:'e' =>'e' v | css:'Shown' =>'Shown' v
-css:'aShow' < i18n:'e' =>'e' v | css:'aMetersShow' =>'meter' v | css:'MetersModifyDo' =>'meter' v
-css:'metersShow' =>'compartment' v | css:'aModifyDo' < css:'a' =>'compartment' v
-css:'aTODOb',remote:1 =>'aTODOb' | css:'btnServiceLoadingplan' =>'btnServiceLoadingplan'
-css:'btnLoadingplan',remote:2 =>'btnLoadingplan' | css:'btnLoadingplans' =>'btnLoadingplans' v
-remote:1 < css:'xTODO' =>'' | type:'btn' =>'' t2 | type:'btn' < remote:0 =>'' t2
-type:'btn' < remote:2 =>'' v t2 | type:'btn' < type:'compBtnA' =>'' v t2 | < remote:0 =>'' v
-type:'btn' < type:'meterBtnA' =>'' v t2 | type:'btn' < type:'cmpBtnSetup' =>'' t2
-remote:0 < remote:1 =>'' | remote:2,type:'edit' =>'' v t3 | type:'cmpBtnSetup' =>'' t1
-remote:1,type:'cmpBtnStatus' < remote:0 =>'' v t0 | inputType:'Edit' =>'' v
-inputType:'separator' =>'' v i0 | inputType:'dropdown' =>'' v e0 e6 i1 | inputType:'label' =>'' v i3
-inputType:'button' =>'' v i2 | inputType:'selectlabel' =>'' v i4 | inputType:'input' =>'' v i8
-inputType:'edit',accessLvl:0 =>'' v e0 e6 i5 | inputType:'edit',accessLvl:6 =>'' v e6 i5
-inputType:'edit',accessLvl:7 =>'' v i5 | inputType:'boolean',remote:1 =>'' v e0 e6 i6
-inputType:'boolean',remote:2 =>'' v i6 | inputType:'slider' =>'' v e0 e6 i7
-@Spd#,type:'status' =>'i' d1 t4 | @IO#,type:'status' =>'i' d2 t4 | @Tag#,type:'status' =>'i' d4 t4
-@Wetleg#,type:'status' =>'i' d3 t4 | @As#,type:'status' =>'i' d5 t4 | @TODO#,remote:1 =>'i'
-@Level#,type:'status' =>'i' d6 t4 | @IO#,type:'btn' =>'i' t2 | type:'status' =>'' t4
-integer:0,min:1 =>'' v | integer:'no',dbValues:[10] =>'' v 0 0 0 0 -1 -1  false 0
-integer:1,min:2.9,max:-2.9,values:['abc',3,2],dbValues:[0,10,10,7] =>'' v 2 -2 3 3 1 -1 3 true 7)";
+#include <functional>
 
 class AttributesTest : public QObject {
     Q_OBJECT
 
-private slots:
-    void describesItems()
+    TreeViewItemHandler menu { DevicePaths() };
+
+    QVariant answer(const QByteArray &query, const TreeViewItem &item) const
     {
-        FakeDevice device;
-        device.setTool(R"(echo '["i18n_wm_false"]')");
-        for (const QByteArray &row : QByteArray(table).replace('\n', '|').split('|')) {
-            const QByteArray definition = row.left(row.indexOf("=>"));
-            QByteArray script = "[{" + definition + "}]";
-            script.replace('<', "}, {")
-                .replace('@', "i18n:'i',css:'btnServiceDiagnose")
-                .replace('#', "Interfaces'");
-            TreeViewItemHandler menu(device.paths());
-            const auto list = menu.scriptHelper().scriptEngine().evaluate(QLatin1String(script));
-            TreeViewItem root({}, {}, nullptr, -1, 0);
-            TreeViewItem &item = root.addChild(list.property(0), list.property(1), -1);
-            QByteArray facts = "=>'" + menu.labelKey(item).toUtf8() + '\'';
-            const auto add = [&](bool holds, const char *fact, const QVariant &value) {
-                facts += holds ? fact + value.toByteArray() : "";
-            };
-            add(menu.isVisible(item), " v", {});
-            add(menu.isEditable(item), " e", 0);
-            menu.updateAccessLevel();
-            add(menu.isEditable(item), " e", 6);
-            add(menu.diagnoseScreen(item) != 0, " d", menu.diagnoseScreen(item));
-            add(menu.inputKind(item) != NoInput, " i", menu.inputKind(item));
-            add(menu.typeKind(item) != NoType, " t", menu.typeKind(item));
-            for (const QVariant &value : QVariantList { menu.minimum(item), menu.maximum(item),
-                     menu.valueCount(item), menu.widestValue(item),
-                     menu.indexOfDatabaseValue(item, 10.0), menu.indexOfDatabaseValue(item, 7),
-                     menu.valueAt(item, 1), menu.valueAt(item, 1).type() == QVariant::LongLong,
-                     menu.databaseValueAt(item, 3) })
-                add(menu.isInteger(item), " ", value);
-            QCOMPARE((definition + facts).trimmed(), row.trimmed());
-            item.addChild({}, {}, -1);
-            QVERIFY(!menu.isEditable(item));
-        }
+        const QMap<QByteArray, std::function<QVariant()>> answers {
+            { "label", [&] { return menu.labelKey(item); } },
+            { "visible", [&] { return menu.isVisible(item); } },
+            { "editable", [&] { return menu.isEditable(item); } },
+            { "input kind", [&] { return int(menu.inputKind(item)); } },
+            { "type kind", [&] { return int(menu.typeKind(item)); } },
+            { "screen", [&] { return int(menu.diagnoseScreen(item)); } },
+            { "integer", [&] { return menu.isInteger(item); } },
+            { "minimum", [&] { return menu.minimum(item); } },
+            { "maximum", [&] { return menu.maximum(item); } },
+            { "step", [&] { return menu.step(item); } },
+            { "count", [&] { return menu.valueCount(item); } },
+            { "widest", [&] { return menu.widestValue(item); } },
+            { "text 1", [&] { return menu.valueAt(item, 1); } },
+            { "value 3", [&] { return menu.databaseValueAt(item, 3); } },
+            { "place of 10", [&] { return menu.indexOfDatabaseValue(item, 10.0); } },
+        };
+        return answers[query]();
     }
+
+private slots:
+    void describes_data();
+    void describes();
 };
+
+void AttributesTest::describes_data()
+{
+    QTest::addColumn<QByteArray>("query");
+    QTest::addColumn<QByteArray>("definition");
+    QTest::addColumn<QByteArray>("entry");
+    QTest::addColumn<QVariant>("answer");
+    const auto row = [](const char *query, const QByteArray &definition, const QVariant &answer,
+                         const QByteArray &entry = {}) {
+        QTest::addRow("%s of {%s} < {%s}", query, definition.constData(), entry.constData())
+            << QByteArray(query) << definition << entry << answer;
+    };
+    row("label", "", QString());
+    row("label", "i18n: 'own'", QStringLiteral("own"), "i18n: 'entry'");
+    row("label", "i18n: '', css: 'aShow'", QStringLiteral("entry"), "i18n: 'entry'");
+    row("label", "css: 'Shown'", QStringLiteral("Shown"), "css: 'a'");
+    row("label", "css: 'aShow'", QStringLiteral("compartment"));
+    row("label", "css: 'metersModifyDo'", QStringLiteral("compartment"));
+    row("label", "css: 'aMetersShow'", QStringLiteral("meter"));
+    row("label", "css: 'MetersModifyDo'", QStringLiteral("meter"));
+
+    for (const char *item : { "", "remote: 2", "remote: 1, type: 'btn'", "css: 'btnLoadingplans'" })
+        row("visible", item, true, "remote: 0");
+    for (const char *item : { "remote: 0", "css: 'aTODOb', remote: 1", "css: 'btnLoadingplan'",
+             "css: 'btnServiceLoadingplan', remote: 2", "type: 'btn', css: 'xTODO'" })
+        row("visible", item, false, "remote: 1");
+    for (const char *entry : { "remote: 2", "type: 'compBtnA'", "type: 'meterBtnA'" })
+        row("visible", "type: 'btn'", true, entry);
+    for (const char *entry : { "", "remote: 0", "type: 'cmpBtnSetup'", "css: 'a'" })
+        row("visible", "type: 'btn'", false, entry);
+    row("visible", "", false, "css: 'xTODO'");
+
+    for (const char *kind : { "dropdown", "edit", "boolean", "slider" })
+        row("editable", QByteArray("accessLvl: 4, inputType: '") + kind + '\'', true);
+    for (const char *item : { "inputType: 'selectlabel'", "inputType: 'input'", "",
+             "inputType: 'edit', remote: 2", "inputType: 'edit', accessLvl: 5" })
+        row("editable", item, false);
+
+    int number = 0;
+    for (const char *word : { "separator", "dropdown", "button", "label", "selectlabel", "edit",
+             "boolean", "slider", "input", "Edit" })
+        row("input kind", QByteArray("inputType: '") + word + '\'', number++);
+    row("input kind", "", int(NoInput));
+    number = 0;
+    for (const char *word : { "cmpBtnStatus", "cmpBtnSetup", "btn", "edit", "status", "Status" })
+        row("type kind", QByteArray("type: '") + word + '\'', number++);
+    number = 0;
+    for (const char *kind : { "", "Spd", "IO", "Wetleg", "Tag", "As", "Level" }) {
+        const QByteArray css = QByteArray("css: 'btnServiceDiagnose") + kind + "Interfaces'";
+        row("screen", css + ", type: 'status'", number++);
+        row("screen", css + ", type: 'btn'", 0);
+    }
+
+    row("integer", "integer: 1", true);
+    row("integer", "integer: 0", false);
+    row("minimum", "min: -2.9", -2);
+    row("maximum", "max: 1e10", std::numeric_limits<int>::max());
+    row("step", "step: 2.9", 2);
+    row("step", "", 0);
+    row("count", "values: ['abc', 3, 2]", 3);
+    row("count", "values: {length: 1e10}", 100000);
+    row("widest", "values: ['abc', 12345, 2]", 5);
+    row("text 1", "values: ['abc', 3]", 3LL);
+    row("text 1", "values: ['abc', 3.5]", 3.5);
+    row("text 1", "values: ['abc']", QString());
+    row("value 3", "dbValues: [0, 10, 10, 9007199254740992]", 9007199254740992LL);
+    row("value 3", "dbValues: [0, 10]", 0);
+    row("place of 10", "values: ['a', 'b', 'c'], dbValues: [0, 10, '10']", 1);
+    row("place of 10", "values: ['a'], dbValues: [0, 10]", -1);
+    row("place of 10", "dbValues: [10]", -1);
+}
+
+void AttributesTest::describes()
+{
+    QFETCH(QByteArray, query);
+    QFETCH(QByteArray, definition);
+    QFETCH(QByteArray, entry);
+    QFETCH(QVariant, answer);
+    const QByteArray script = "[{" + definition + "}, {" + entry + "}]";
+    const auto list = menu.scriptHelper().scriptEngine().evaluate(QString::fromLatin1(script));
+    TreeViewItem item(list.property(0), list.property(1), nullptr, -1, 0);
+    menu.setAccessLevel(4);
+    const QVariant actual = this->answer(query, item);
+    QCOMPARE(actual, answer);
+    QCOMPARE(actual.type(), answer.type());
+    item.addChild({}, {}, -1);
+    QVERIFY(!menu.isEditable(item));
+}
 
 QTEST_GUILESS_MAIN(AttributesTest)
 #include "AttributesTest.moc"
