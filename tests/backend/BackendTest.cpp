@@ -6,14 +6,6 @@
 
 #include <csignal>
 
-// What the tool does, and what is understood of it: a list, with "yes" when it confirms a write.
-static const char answers[] = R"(echo [true] => [true] yes | echo '[1,"ä"]' => [1,"\u00e4"] yes
-echo '[0.5,{"a":[null]}]' => [0.5,{"a":[null]}] yes | printf [3]; kill -SEGV $$ => [3] yes
-echo x >&2; echo [4]; exit 1 => [4] yes | echo [5]; exec >&-; sleep 0.1 => [5] yes
-echo '["i18n_wm_false"]' => ["i18n_wm_false"] yes | echo [false] => [false] | echo [0] => [0]
-echo [] => [] | echo '{"a":1}' => [] | echo true => [] | : => | printf oops => oops
-printf [1, => [1, | printf '[1] x' => [1] x | printf '\377' => �)";
-
 static bool isAlive(pid_t process)
 {
     QFile file(QStringLiteral("/proc/%1/stat").arg(process));
@@ -25,62 +17,119 @@ class BackendTest : public QObject {
 
     FakeDevice device;
     TreeViewItemHandler handler { device.paths() };
+    const QString word = QStringLiteral("word");
 
     QByteArray calls() { return device.takeCalls().join(QLatin1Char(' ')).toUtf8(); }
 
 private slots:
+    void init() { device.takeCalls(); }
+
+    void understandsAnswers_data()
+    {
+        QTest::addColumn<QByteArray>("commands");
+        QTest::addColumn<QByteArray>("list");
+        QTest::addColumn<bool>("confirmsWrite");
+        const auto row = [](const char *name, const char *commands, const char *list,
+                             bool confirmsWrite) {
+            QTest::newRow(name) << QByteArray(commands) << QByteArray(list) << confirmsWrite;
+        };
+        row("true", "echo [true]", "[true]", true);
+        row("false", "echo [false]", "[false]", false);
+        row("zero", "echo [0]", "[0]", false);
+        row("less than a half", "echo [0.4]", "[0.4000000000000000222]", true);
+        row("text", "echo '[\"error\"]'", "[\"error\"]", true);
+        row("text of false", "echo '[\"False\"]'", "[\"False\"]", false);
+        row("list", "echo [[1]]", "[[1]]", false);
+        row("nothing", "echo [null]", "[null]", false);
+        row("further values", "echo '[1, \"ä\", {\"a\": 0.5}]'", R"([1,"\u00e4",{"a":0.5}])", true);
+        row("empty list", "echo []", "[]", false);
+        row("object", "echo '{\"a\": 1}'", "[]", false);
+        row("no list", "echo true", "[]", false);
+        row("crash", "printf [3]; kill -SEGV $$", "[3]", true);
+        row("exit status", "echo x >&2; echo [4]; exit 1", "[4]", true);
+        row("closed output", "echo [5]; exec >&-; sleep 0.1", "[5]", true);
+    }
+
     void understandsAnswers()
     {
+        QFETCH(QByteArray, commands);
+        device.setTool(commands);
+        const QVariantList values = handler.scriptHelper().read({ word }, true);
+        QTEST(ScriptHelper::variantListToJson(values).toUtf8(), "list");
+        QStringList arguments(word);
+        QTEST(handler.scriptHelper().write(arguments, values), "confirmsWrite");
+    }
+
+    void reportsOtherOutput()
+    {
+        for (const char *output : { "", "oops", "[1,", "[1] x", "say \"no\"\\" }) {
+            device.setTool(QByteArray("printf '%s' '") + output + '\'');
+            QTest::ignoreMessage(QtDebugMsg,
+                QByteArray("byteArray2VariantList: parsing failed. Input was:  \"") + output + '"');
+            QCOMPARE(handler.scriptHelper().read({ word }, true), QVariantList());
+        }
+    }
+
+    void remembersTheLastRead()
+    {
         ScriptHelper &script = handler.scriptHelper();
-        const QString r = QStringLiteral("r");
-        for (const QByteArray &row : QByteArray(answers).replace('\n', '|').split('|')) {
-            const QByteArray answer = row.mid(row.indexOf("=>") + 2).trimmed();
-            const bool isList = answer.endsWith("yes") || answer.endsWith(']');
-            device.setTool(row.left(row.indexOf("=>")));
-            for (int call = 0; call < 5 && !isList; ++call)
-                QTest::ignoreMessage(QtDebugMsg,
-                    "byteArray2VariantList: parsing failed. Input was:  \"" + answer + '"');
-            const QVariantList values = script.read({ r }, true);
-            const auto json = ScriptHelper::variantListToJson(values).toUtf8();
-            QStringList arguments(QStringLiteral("w  \"w"));
-            const bool written = script.write(arguments, values);
-            QCOMPARE(json + (written ? " yes" : ""), isList ? answer : "[]");
-            script.read({ r }, false);
-            script.read({ r, QString() }, false);
-            QCOMPARE(script.read({ r, QString() }, true), values);
+        device.setTool("echo [1]");
+        script.read({ word }, true);
+        QStringList arguments { QStringLiteral("two  \"words") };
+        script.write(arguments, { true, QStringLiteral("ä") });
+        QCOMPARE(calls(), QByteArray("word two  \"words|[true,\"\\u00e4\"]"));
+        device.setTool("echo [2]");
+        QCOMPARE(script.read({ word }, false), QVariantList { 1 });
+        QCOMPARE(calls(), QByteArray());
+        QCOMPARE(script.read({ word, QString() }, false), QVariantList { 2 });
+        script.read({ word, QString() }, true);
+        QCOMPARE(calls(), QByteArray("word| word|"));
+        QVERIFY(!script.write(arguments, { qQNaN() }));
+        QCOMPARE(calls(), QByteArray());
+    }
+
+    void asksForTheSeal()
+    {
+        for (const char *answer :
+            { "[\"i18n_wm_false\"]", "[\"i18n_wm_true\"]", "[false]", "[]" }) {
+            device.setTool(QByteArray("echo '") + answer + '\'');
             handler.updateAccessLevel();
-            QCOMPARE(handler.accessLevel(), answer.contains("i18n_wm_false") ? 6 : 4);
-            QCOMPARE(calls(), "r w  \"w|" + json + " r| r| get_menu_electronic_seal_status");
+            QCOMPARE(handler.accessLevel(), QByteArray(answer).contains("wm_false") ? 6 : 4);
         }
     }
 
     void opensReadsAndWrites()
     {
         const QScriptValue list = handler.scriptHelper().scriptEngine().evaluate(QStringLiteral(R"([
-            {'ajax-read': 'g  a', 'ajax-write': 'set  all'}, {inputType: 'label'}, {}, {inputType:
-            'separator'}, {inputType: 'button'}, {'ajax-read': 'g b'}, {'ajax-read': 'g c'}])"));
+            {'ajax-read': 'get  outer', 'ajax-write': 'set  outer'}, {inputType: 'label'},
+            {inputType: 'separator'}, {inputType: 'button'}, {'ajax-read': 'get inner'}])"));
         TreeViewItem root({}, {}, nullptr, -1, 0);
-        TreeViewItem &c = root.addChild(list.property(6), {}, -1);
-        TreeViewItem &a = root.addChild(list.property(0), {}, -1);
-        for (const quint32 field : { 1, 2, 3, 4 })
-            a.addChild(list.property(field), {}, -1);
-        TreeViewItem &b = a.addChild(list.property(5), {}, 2);
-        b.addChild({}, {}, -1);
-        device.setTool("echo '[2, \"b\", 1.5, 3]'");
-        QByteArray log;
-        for (TreeViewItem *item : { &b, &a, &b, &c, &a }) { // b at first below a closed one
-            log += handler.toggleItem(root, item, false) ? "+ " : "- ";
-            handler.refreshValues(root);
-            log += calls().replace("get_menu_electronic_seal_status", "seal") + ';';
-        }
-        QCOMPARE(
-            log, QByteArray("- seal;+ g|a seal;+ g|b|2 seal g|a;+ g|c seal g|a g|b|2;- seal;"));
-        QVERIFY(!b.expanded && c.expanded);
-        QVERIFY(handler.writeItemValues(b) && !handler.writeItemValues(*b.children[0]));
-        QCOMPARE(calls(), QByteArray("set|all|2|[2,\"b\",1.5]"));
-        handler.assignItemValues(a, { qQNaN() });
-        QVERIFY(!handler.writeItemValues(b));
-        QCOMPARE(handler.collectItemValues(a).mid(1), QVariantList({ QStringLiteral("b"), 1.5 }));
+        TreeViewItem &outer = root.addChild(list.property(0), {}, -1);
+        for (const quint32 field : { 1, 2, 3 })
+            outer.addChild(list.property(field), {}, -1);
+        TreeViewItem &inner = outer.addChild(list.property(4), {}, 2);
+        inner.addChild({}, {}, -1);
+        device.setTool("echo '[1, \"b\", 3]'");
+
+        QVERIFY(!handler.toggleItem(root, &inner, false)); // it is below a closed one
+        QVERIFY(handler.toggleItem(root, &outer, false));
+        QVERIFY(handler.toggleItem(root, &inner, false));
+        QCOMPARE(calls(), QByteArray("get|outer get|inner|2"));
+        handler.refreshValues(root); // but for what was opened last
+        QCOMPARE(calls(), QByteArray("get_menu_electronic_seal_status get|outer"));
+        handler.refreshValues(root);
+        QCOMPARE(calls(), QByteArray("get_menu_electronic_seal_status get|outer get|inner|2"));
+
+        const QVariantList values { 1, QStringLiteral("b") };
+        QCOMPARE(handler.collectItemValues(outer), values);
+        handler.assignItemValues(outer, { 5 });
+        QVERIFY(handler.writeItemValues(inner));
+        QCOMPARE(calls(), QByteArray("set|outer|2|[5,\"b\"]"));
+        QVERIFY(!handler.writeItemValues(*inner.children[0])); // its group has no "ajax-write"
+
+        QVERIFY(!handler.toggleItem(root, &outer, false));
+        QVERIFY(!outer.expanded && !inner.expanded);
+        QCOMPARE(calls(), QByteArray());
     }
 
     void killsWhatHangs()

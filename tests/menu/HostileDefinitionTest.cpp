@@ -75,6 +75,11 @@ void HostileDefinitionTest::definitions()
           "s[0].screens.push({css: i}) }"
           " var Settings = {settings: s}",
             100000 },
+        // 450 references to a screen with 450 references.
+        { "var s = [{screens: []}, {css: 'a', screens: []}, {css: 'b'}]; for (var i = 0; i < 450; "
+          "i++) { s[0].screens.push({css: 'a'}); s[1].screens.push({css: 'b'}) }"
+          " var Settings = {settings: s}",
+            200000 },
         // A chain of screens, each below the one before it.
         { "var s = [{screens: [{css: 0}]}]; for (var i = 0; i < 5000; i++) s.push({css: i, "
           "screens: [{css: i + 1}]});"

@@ -22,7 +22,8 @@ private slots:
         Screen screen([&terminal](const QByteArray &bytes) { terminal.feed(bytes); });
         const auto rowsAfterDrawing = [&] {
             terminal.forgetWrittenRows();
-            state.overlayLines = startMenu(state);
+            if (state.overlayLines.isEmpty())
+                state.overlayLines = startMenu(state);
             screen.show(composeFrame(state, QString()), state.termRows, { 1, 1 });
             return notationOfRows(terminal, terminal.writtenRows());
         };
