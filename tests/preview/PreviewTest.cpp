@@ -209,6 +209,37 @@ private slots:
         QCOMPARE(valueAt(state, { QStringLiteral("sealClosed") }), QVariant(true));
     }
 
+    void exampleToolAnswersEveryCall()
+    {
+        const QTemporaryDir directory;
+        const QString tool = directory.filePath(QStringLiteral("DBusController"));
+        QVERIFY(QFile::copy(QStringLiteral(EXAMPLE_TOOL), tool));
+        QVERIFY(QFile::setPermissions(tool, QFile::ReadOwner | QFile::ExeOwner));
+        const auto answer = [&](const QStringList &words, const QString &values = {}) {
+            return runProgram(tool, values.isEmpty() ? words : words + QStringList { values })
+                .output;
+        };
+        for (const char *words : { "get_menu truck_setup", "get_menu_electronic_seal_status",
+                 "get_menu_service_diagnose_spd_interfaces",
+                 "get_menu_service_diagnose_io_interfaces",
+                 "get_menu_service_diagnose_wetleg_interfaces",
+                 "get_menu_service_diagnose_as_interfaces",
+                 "get_menu_service_diagnose_tag_interfaces 0",
+                 "get_menu_service_diagnose_tag_interfaces 1" }) {
+            const QString text = QLatin1String(words);
+            const QByteArray list = answer(text.split(QLatin1Char(' ')));
+            QVERIFY2(!parseJson(list).value_or(QVariant()).toList().isEmpty(), words);
+            QCOMPARE(answer({ text }), list);
+        }
+        QVERIFY(!answer({ QStringLiteral("--version") }).isEmpty());
+        const QString values = QStringLiteral("[false,\"two  blanks, * and \\\\\",1.5]");
+        const QStringList group { QStringLiteral("electronic_seal"), QStringLiteral("2") };
+        QCOMPARE(answer(QStringList { QStringLiteral("set_menu") } + group, values),
+            QByteArray("[true]\n"));
+        QCOMPARE(
+            answer(QStringList { QStringLiteral("get_menu") } + group), values.toUtf8() + '\n');
+    }
+
     void reportsProblemsAfterTheSession()
     {
         const QDir webRoot(files.paths().webRoot);
