@@ -50,12 +50,14 @@ TemporaryDirectory::~TemporaryDirectory()
 
 DemoDevice::DemoDevice()
 {
-    Program(console()).firstFrame();
+    Program({ DRAVIKON_DEMO, "--state", directory.path }).firstFrame();
+    fs::create_symlink(DRAVIKON_DEMO_WEB "/scripts/settings.js", directory.path / "settings.js");
+    fs::create_symlink(DRAVIKON_DEMO_WEB "/locales", directory.path / "locales");
 }
 
 Command DemoDevice::console() const
 {
-    return { DRAVIKON_DEMO, "--state", directory.path };
+    return { DRAVIKON_BENCH_CONSOLE, directory.path };
 }
 
 void DemoDevice::recordCalls(bool on)
