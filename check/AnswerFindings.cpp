@@ -43,18 +43,14 @@ Findings lengthFindings(
 {
     int entries = 0;
     QString firstEmpty;
-    QString last;
     for (const auto &child : screen.children) {
-        if (!handler.isValueBearing(*child))
-            continue;
-        last = translate(handler.labelKey(*child));
-        if (entries++ == answer.size())
-            firstEmpty = last;
+        if (handler.isValueBearing(*child) && entries++ == answer.size())
+            firstEmpty = translate(handler.labelKey(*child));
     }
     if (entries > answer.size()) {
         return { error("few-values",
             QStringLiteral(
-                "the answer has %1 values for %2 entries: from \"%3\" on they stay empty and "
+                "the answer has %1 of %2 values: from \"%3\" on the entries stay empty and "
                 "are written as null; answer a value for each but separators and buttons")
                 .arg(answer.size())
                 .arg(entries)
@@ -63,7 +59,7 @@ Findings lengthFindings(
     if (entries < answer.size()) {
         return { error("many-values",
             QStringLiteral(
-                "the answer has %1 values for %2 entries, so those after the surplus one are "
+                "the answer has %1 values instead of %2, so those after the surplus one are "
                 "shown and written at the wrong entries; answer a value for each but "
                 "separators and buttons")
                 .arg(answer.size())

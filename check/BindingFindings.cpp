@@ -17,7 +17,7 @@ Findings readFindings(const TreeViewItemHandler &handler, const TreeViewItem &it
     const bool hasBinding = handler.readBinding(item).has_value();
     const bool hasValues = std::any_of(children.cbegin(), children.cend(),
         [&handler](const auto &child) { return showsValue(handler, *child); });
-    // It needs no opening, and reading comes with that.
+    // Values are read when a screen is opened, and the start page always is.
     if (!item.parentItem && (hasBinding || hasValues)) {
         return { error("no-read",
             QStringLiteral("the start page is never read, its fields stay empty; move them to a "

@@ -61,7 +61,7 @@ Findings runFindings(const ToolCalls &calls, const QStringList &arguments)
     return {};
 }
 
-// Then its output needs no finding of its own.
+// True if the output of the run needs no findings of its own.
 bool isDead(const Findings &ofRun)
 {
     return !ofRun.isEmpty() && ofRun.first().severity == Severity::Error;

@@ -10,7 +10,7 @@ namespace {
 
 const QStringList versionCall { QStringLiteral("--version") };
 
-// Each of these is asked for; the number counts for TAG only.
+// What the list query of a kind is repeated for; the number counts for TAG only.
 QVector<int> tagNumbers(InterfaceKind kind)
 {
     return kind == TagInterface ? QVector<int> { 0, 1 } : QVector<int> { 0 };
@@ -111,7 +111,7 @@ void readInterfaces(TreeViewItemHandler &handler, const TreeViewItem &item)
     if (item.parentItem && !handler.isVisible(item))
         return;
     const InterfaceKind kind = handler.diagnoseScreen(item);
-    // The screen of the Level interfaces is a placeholder.
+    // The screen of the Level interfaces is a placeholder and reads nothing.
     if (item.children.empty() && kind != LevelInterface) {
         for (const int tagNumber : tagNumbers(kind))
             handler.interfaceList(kind, tagNumber);
@@ -146,7 +146,8 @@ void readDevice(LoadedMenu &menu, ToolCalls &calls, DeviceExtent extent)
         menu.handler.readCounts(menu.screens);
         readMenu(menu, extent);
     });
-    // The handler answers a repeated read from memory, where the last one is still a planned one.
+    // The handler repeats its last answer to an equal count query, and that is an empty one of the
+    // plan; this read takes its place.
     menu.handler.updateAccessLevel();
     menu.repeatScreens(menu.handler.readCounts(menu.screens));
     calls.plan([&] { readMenu(menu, extent); });
@@ -155,7 +156,7 @@ void readDevice(LoadedMenu &menu, ToolCalls &calls, DeviceExtent extent)
 
 QStringList deviceProblems(LoadedMenu &menu, const ToolCalls &calls)
 {
-    // What can be changed at all is to be right.
+    // Includes what can be changed only while the seal is open.
     menu.handler.setAccessLevel(TreeViewItemHandler::openAccessLevel);
     Report report(menu);
     DeviceCheck(menu, calls, report).run();

@@ -9,15 +9,15 @@ enum class DeviceExtent {
     Everything ///< versions and interface screens as well
 };
 
-/// Asks the device, through the tool that `menu` was given, all that the console can ask to show
-/// `extent`. The tree then has the device's compartments and meters and all values, everything
+/// Reads everything of `extent` from the device; `calls` is what `menu` runs the tool with. The
+/// tree then has the device's compartments and meters and all values, and everything in it is
 /// opened. Nothing is written.
 void readDevice(LoadedMenu &menu, ToolCalls &calls, DeviceExtent extent);
 
 /// The problems of the answers, in the form of `menuProblems`.
 QStringList deviceProblems(LoadedMenu &menu, const ToolCalls &calls);
 
-/// Why values are missing: the calls that failed, one a line.
+/// The calls that failed, so that values are missing, one a line.
 QStringList failedCalls(const ToolCalls &calls);
 
 /// The number of calls and the slowest five, one a line.

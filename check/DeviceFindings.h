@@ -19,17 +19,17 @@ Findings callFindings(const ToolCalls &calls, const QStringList &arguments);
 /// A version that the bottom row cannot show.
 Findings versionFindings(const ToolCalls &calls, const QStringList &arguments);
 
-/// An answer on the electronic seal that is none of the two.
+/// A seal status that is neither open nor closed.
 Findings sealFindings(const QVariantList &answer);
 
-/// A number of compartments or meters, at `place` of the answer, that the console takes as none.
+/// A number of compartments or meters, at `place` of the answer, that is not from 0 to 999.
 Findings countFindings(const QVariantList &answer, int place, const QString &field);
 
 /// More or fewer values than the screen has entries for.
 Findings lengthFindings(
     const TreeViewItemHandler &handler, const TreeViewItem &screen, const QVariantList &answer);
 
-/// A value that the item cannot show, or that its dialog cannot have chosen.
+/// A value that the item cannot show, or that its dialog does not offer.
 Findings storedValueFindings(const TreeViewItemHandler &handler, const TreeViewItem &item);
 
 /// A state of field interfaces that their screen cannot show; `tagNumber` counts for TAG only.

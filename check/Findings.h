@@ -9,7 +9,7 @@ enum class Severity { Warning, Error };
 
 struct Finding {
     Severity severity;
-    QLatin1String name; ///< by this a definition allows the finding where it is meant
+    QLatin1String name; ///< a definition allows an intended finding by it
     QString text; ///< what is wrong and what to do
 };
 
@@ -58,7 +58,7 @@ Findings countScreenFindings(const LoadedMenu &menu, int screen);
 /// Lists, sliders and edit items that cannot be used as they are defined.
 Findings valueFindings(const TreeViewItemHandler &handler, const TreeViewItem &item);
 
-/// Why an edit item refuses whatever is typed; empty when there is a text that it takes.
+/// Why an edit item refuses every text, or an end of its range.
 Findings ruleFindings(const TreeViewItemHandler &handler, const TreeViewItem &item);
 
 /// True when there is a text that an edit item takes.

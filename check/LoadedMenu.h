@@ -1,11 +1,11 @@
-// A menu definition, loaded as the console loads it but without asking the backend for anything.
+// A menu definition, loaded as the console loads it.
 #pragma once
 
 #include "menu/ScreenIndex.h"
 #include "menu/TreeViewItemHandler.h"
 
-/// The screens and the tree of the definition. The tree has one compartment and one meter, and its
-/// items are as editable as with the electronic seal open.
+/// The screens and the tree of the definition. No tool is run for it: the tree has one compartment
+/// and one meter, and its items are as editable as with the electronic seal open.
 struct LoadedMenu {
     explicit LoadedMenu(const DevicePaths &paths, const ToolRunner &runTool = {});
 

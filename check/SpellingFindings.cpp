@@ -3,6 +3,9 @@
 
 #include <QScriptValueIterator>
 
+#include <algorithm>
+#include <array>
+
 namespace {
 
 enum class Form { Text, Number, Flag, List };
@@ -82,6 +85,13 @@ bool hasForm(const QScriptValue &value, Form form)
     return false;
 }
 
+bool isOtherWord(const QString &name)
+{
+    constexpr std::array<const char *, 4> words = { "remove", "stop", "tyre", "valves" };
+    return std::any_of(words.cbegin(), words.cend(),
+        [&name](const char *word) { return name == QLatin1String(word); });
+}
+
 // Browsers have attributes of their own, so short words must match but for case and hyphens, and
 // the value must be of the kind that the console expects.
 bool isMisspelled(const QString &name, const QScriptValue &value, const Attribute &attribute)
@@ -90,7 +100,7 @@ bool isMisspelled(const QString &name, const QScriptValue &value, const Attribut
     constexpr int longWord = 9;
     const QString meant = simplified(attribute.name);
     const QString written = simplified(name);
-    if (value.isFunction() || name == attribute.name)
+    if (value.isFunction() || isOtherWord(written))
         return false;
     if (written == meant)
         return true;

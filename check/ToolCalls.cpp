@@ -13,9 +13,10 @@ QByteArray ToolCalls::run(const QStringList &arguments)
         progress(int(made.size()) + 1, int(planned.size()), arguments);
     QElapsedTimer timer;
     timer.start();
-    const QByteArray output = BackendTool::run(tool, arguments, patienceMs);
-    made[arguments] = { output, timer.elapsed() };
-    return output;
+    ToolCall &call = made[arguments];
+    call.output = BackendTool::run(tool, arguments, patienceMs);
+    call.durationMs = timer.elapsed();
+    return call.output;
 }
 
 void ToolCalls::plan(const std::function<void()> &calls)
