@@ -105,7 +105,7 @@ void MenuSession::draw()
         state.menuLines = menuLines(handler, *root, state.termColumns, &state.statusText);
     }
     const QString title = titleBar(handler.setupStructureVersion(), state.dbcVersion);
-    screen.show(composeFrame(state, title), state.termRows, editPosition(state, handler));
+    screen.show(composeFrame(state, title), state.termRows, { 1, 1 });
 }
 
 void MenuSession::move(int lines)

@@ -14,7 +14,7 @@ Frame valueDialog(ViewState &state, const TreeViewItemHandler &handler, const Tr
 
 /// Moves the index of the current view by `delta` steps and keeps it within its bounds: the
 /// vertical limit is exclusive, the horizontal one inclusive. The menu only moves vertically; the
-/// cursor of an edit field goes as far as the end of the text.
+/// cursor of an edit field goes as far as the end of the text. Elsewhere it empties `overlayLines`.
 void moveSelection(
     ViewState &state, const TreeViewItemHandler &handler, bool horizontal, int delta);
 
