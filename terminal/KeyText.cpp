@@ -16,15 +16,12 @@ static QByteArray keyNamed(const QString &name)
     return keys.value(name);
 }
 
-static QByteArrayList charactersOf(QString quoted)
+QString withCharacterCodes(QString text)
 {
     static const QRegularExpression code(QStringLiteral("\\\\x([0-9a-f]{2})"));
-    for (auto found = code.match(quoted); found.hasMatch(); found = code.match(quoted))
-        quoted.replace(found.capturedStart(), 4, QChar(found.captured(1).toUShort(nullptr, 16)));
-    QByteArrayList keys;
-    for (const char byte : quoted.toLatin1())
-        keys += QByteArray(1, byte);
-    return keys;
+    for (auto found = code.match(text); found.hasMatch(); found = code.match(text))
+        text.replace(found.capturedStart(), 4, QChar(found.captured(1).toUShort(nullptr, 16)));
+    return text;
 }
 
 std::optional<QByteArrayList> keysFromText(const QString &text)
@@ -37,8 +34,8 @@ std::optional<QByteArrayList> keysFromText(const QString &text)
         const QByteArray key = keyNamed(found.captured(2));
         if (!found.hasMatch() || (key.isEmpty() && !found.captured(2).isEmpty()))
             return std::nullopt;
-        if (key.isEmpty())
-            keys += charactersOf(found.captured(1));
+        for (const char byte : withCharacterCodes(found.captured(1)).toLatin1())
+            keys += QByteArray(1, byte);
         for (int i = 0; !key.isEmpty() && i < qMax(1, found.captured(3).toInt()); ++i)
             keys += key;
         place = found.capturedEnd();

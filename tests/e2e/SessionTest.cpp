@@ -2,7 +2,6 @@
 #include "terminal/Keys.h"
 #include "tests/support/DeviceSession.h"
 #include "tests/support/RunProgram.h"
-#include "json/JsonWriter.h"
 
 #include <QElapsedTimer>
 #include <QtTest>
@@ -78,7 +77,6 @@ private slots:
     void keysTogether();
     void keyInPieces_data();
     void keyInPieces();
-    void foreignText();
     void steadyMemory();
 };
 
@@ -347,33 +345,6 @@ void SessionTest::keyInPieces()
     }
     QVERIFY(session.press({ Key::enter }) && session.waitForRest());
     QVERIFY(session.device.takeCalls().contains(QStringLiteral("get|truck")));
-}
-
-void SessionTest::foreignText()
-{
-    const QString text = QStringLiteral("a\x1b[2J\x1b]52;c;eA==\x07 \x9b"
-                                        "5n\x90q\x9c\x7f\0\n\u202e\u00e4\U0001f600");
-    const QString shown = QStringLiteral("a [2J ]52;c;eA==   5n q    ?\u00e4??");
-    Session session;
-    session.device.setScreens("[{screens:[{css:'top', remote:1}, {i18n:'\\ud83d' + "
-                              "Array(1e7).join('x')}]}, {css:'top', i18n:"
-        + *jsonText(text)
-        + ", 'ajax-read':'get', screens:[{i18n:'label', inputType:'edit', validation:'C60'}]}]");
-    session.device.setTool("case $1 in --version) printf '1\\033[5n\\n/2';; get) echo '"
-        + *jsonText(QVariantList { text }) + "';; esac");
-    QVERIFY(session.run(console, 24, 200) && session.hasTitle() && session.press({ Key::enter }));
-    QVERIFY(session.waitForText(QStringLiteral("label")));
-    const TerminalEmulator &terminal = session.terminal();
-    QCOMPARE(terminal.row(1), QStringLiteral("->  ") + shown);
-    QVERIFY(terminal.row(2).endsWith(shown));
-    QVERIFY(terminal.screen().last().contains(QStringLiteral("|DBC ver: 1 [5n| exit")));
-    QVERIFY(session.press({ Key::down, Key::enter, "\x9b", "\x01" }));
-    QVERIFY(terminal.row(12).contains(shown));
-    QCOMPARE(terminal.answerBack(), QByteArray());
-    QCOMPARE(terminal.row(0), QStringLiteral("Quenstadel"));
-    // Half a surrogate pair and ten million letters; the last column goes to the erasing.
-    QCOMPARE(terminal.row(3), QStringLiteral(" -  ?") + QString(194, QLatin1Char('x')));
-    QCOMPARE(terminal.row(4), QString());
 }
 
 void SessionTest::steadyMemory()

@@ -36,7 +36,8 @@ QString TranscriptPlayer::setAnswer(const QString &line)
     if (!found.hasMatch())
         return QStringLiteral("an answer without =>");
     const QString call = quoted(found.captured(1)).replace(QLatin1Char('*'), QLatin1String("'*'"));
-    answers.prepend(QStringLiteral("%1) printf '%s\\n' %2;;").arg(call, quoted(found.captured(2))));
+    answers.prepend(QStringLiteral("%1) printf '%s\\n' %2;;")
+                        .arg(call, quoted(withCharacterCodes(found.captured(2)))));
     const QString branches = answers.join(QLatin1Char('\n'));
     device.setTool(QStringLiteral("case \"$*\" in\n%1\nesac").arg(branches).toUtf8());
     return {};
