@@ -22,9 +22,8 @@ std::optional<QVariant> valueOf(const ToolCall &call, JsonFault *fault)
 
 QString whyNoArray(const ToolCall &call)
 {
-    if (call.output.trimmed().isEmpty()) {
+    if (call.output.trimmed().isEmpty())
         return QStringLiteral("printed nothing; it failed, or does not know these words");
-    }
     JsonFault fault;
     if (valueOf(call, &fault))
         return QStringLiteral("printed JSON that is no array; put the values between [ and ]");

@@ -14,7 +14,7 @@ enum class DeviceExtent {
 /// opened. Nothing is written.
 void readDevice(LoadedMenu &menu, ToolCalls &calls, DeviceExtent extent);
 
-/// The problems of the answers, in the form of `menuProblems`.
+/// The problems of the answers, in the form of `menuProblems`, after everything was read.
 QStringList deviceProblems(LoadedMenu &menu, const ToolCalls &calls);
 
 /// The calls that failed, so that values are missing, one a line.

@@ -1,13 +1,11 @@
 #include "check/DeviceFindings.h"
 #include "diagnose/PagedScreen.h"
+#include "diagnose/TagScreen.h"
 #include "json/Values.h"
 
 #include <algorithm>
 
 namespace {
-
-constexpr int interfaceCount = 4;
-constexpr int tagFields = 9;
 
 bool isText(const QVariant &value)
 {
@@ -80,9 +78,9 @@ QString sensorFault(const QVariantList &answer)
 QString tagFault(const QVariantList &answer)
 {
     const bool isPlain = std::none_of(answer.cbegin(), answer.cend(), isArray);
-    return isPlain && answer.size() <= tagFields
+    return isPlain && answer.size() <= tagFieldCount
         ? QString()
-        : QStringLiteral("it is no array of up to %1 texts and numbers").arg(tagFields);
+        : QStringLiteral("it is no array of up to %1 texts and numbers").arg(tagFieldCount);
 }
 
 QString shapeFault(InterfaceKind kind, int tagNumber, const QVariantList &answer)

@@ -20,8 +20,8 @@ enum ExitStatus { Clean, HasProblems, CannotLoad };
 
 const QString description = QStringLiteral(
     "Reports what is wrong with the menu definition of a truck controller's web "
-    "interface,\none problem a line. The backend tool is run by --device only, and writes "
-    "nothing then.\n\n"
+    "interface,\none problem a line. Only --device runs the backend tool, and it writes "
+    "nothing.\n\n"
     "Exit status: 0 no problem, 1 problems, 2 wrong usage or files that cannot be "
     "loaded.");
 

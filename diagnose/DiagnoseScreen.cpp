@@ -8,7 +8,6 @@ namespace {
 
 void drawPages(Frame &frame, const PageLayout &layout, ViewState &state, const QVariantList &answer)
 {
-    constexpr int interfaceCount = 4;
     if (state.optionCount == 0 && state.listIndex < 0) {
         state.listIndex = 0;
         state.optionCount = interfaceCount;

@@ -32,6 +32,9 @@ constexpr PageLayout ioLayout = { "IO IF: ", 8, 0, true,
 constexpr PageLayout wetlegLayout = { "Wetleg IF: ", 6, 0, true,
     { { { 2, 1, 6, 5, 6 }, { 3, 1, 2, 9, 10 } } } };
 
+/// The interfaces of each kind.
+constexpr int interfaceCount = 4;
+
 /// Draws interface number `shown` (from 0) of `count` into the box `frame`: `answer` has one
 /// element for each interface, and that is a list of its versions and its lists of channel values.
 void drawPagedScreen(

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int firstTagLine = 5;
 
-constexpr std::array<const char *, 9> tagLabels = {
+constexpr std::array<const char *, tagFieldCount> tagLabels = {
     "SL: ", "Serial: ", "List.: ", "Quality: ", "Prod: ", "Pitch: ", "Roll:", "List:", "Status:"
 };
 
