@@ -18,7 +18,7 @@ qint64 wideIntegerOf(const QVariant &value)
         return rounded >= -limit && rounded < limit ? qint64(rounded) : 0;
     }
     if (value.type() == QVariant::ULongLong)
-        return qMax<qint64>(value.toLongLong(), 0); // what does not fit shows as negative
+        return qMax<qint64>(value.toLongLong(), 0); // what does not fit wraps to a negative number
     return value.toLongLong();
 }
 

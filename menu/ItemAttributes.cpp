@@ -113,8 +113,8 @@ bool TreeViewItemHandler::isEditable(const TreeViewItem &item) const
         || kind == SliderInput;
 }
 
-// A page is made for browsers unless it, or what refers to it, says that it is for consoles too;
-// the pages of compartments and meters and what has no type are for both.
+// A screen with a type is for browsers only, unless its own "remote" or that of its reference says
+// otherwise. Screens of compartments and meters, and what has no type, are for the console, too.
 bool TreeViewItemHandler::isVisible(const TreeViewItem &item) const
 {
     const QScriptValue remote = item.definition.property(propertyNames.remote);

@@ -35,7 +35,7 @@ QString ScriptHelper::settingsScript() const
 QScriptValue ScriptHelper::load()
 {
     const QString script = settingsScript();
-    // The script hangs functions on this object of the web interface.
+    // The script assigns members of this object, which the web interface provides.
     engine.evaluate(QStringLiteral("var datatransferLogbookHandler ={} "));
     const QScriptValue result = engine.evaluate(script, paths.settingsScript);
     if (result.isError()) {

@@ -70,7 +70,7 @@ void highlightLine(Frame &frame, int line)
 {
     QString &text = frame[line];
     insertText(text, 1, Escape::highlight);
-    // On a line of one character the border is the inside: the colour must not be torn apart.
+    // On a line of one character the reset would otherwise land within the colour sequence.
     insertText(text, qMax(text.size() - 1, 1 + Escape::highlight.size()), Escape::reset);
 }
 

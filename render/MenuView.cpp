@@ -61,7 +61,7 @@ private:
         const QString text = label(item);
         const QString value = printable(valueText(item));
         QString line;
-        // All lines are kept, so each takes the memory that it needs, and takes it once.
+        // All lines are kept: each allocates once, and no more than it needs.
         line.reserve(qMax(labelColumn + text.size(), value.isEmpty() ? 0 : valueColumn(termColumns))
             + value.size());
         if (depth >= 2 && isFirstChild)

@@ -107,7 +107,7 @@ Frame sliderDialog(ViewState &state, const TreeViewItemHandler &handler, const T
     return box;
 }
 
-// What can be typed is not `fieldLength`, by which the cursor is placed: it asks for no range.
+// Unlike `fieldLength`, which places the cursor, the typing limit does not depend on a range.
 Frame editDialog(ViewState &state, const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
     state.rangeMin = 0;
