@@ -20,7 +20,7 @@ set(packaged ${PROJECT_BINARY_DIR}/packaged)
 
 # Manual pages and the changelog, compressed as Debian requires. The pages name the version, so that
 # man shows it for the source page as well.
-foreach(page dravikon dravikon-menu-check)
+foreach(page dravikon dravikon-menu-check dravikon-preview)
     configure_file(${packaging}/${page}.1 ${packaged}/${page}.1 COPYONLY)
     file(READ ${packaging}/${page}.1 text)
     string(FIND "${text}" "\n.Os Dravikon ${PROJECT_VERSION}\n" place)
@@ -51,7 +51,8 @@ set(CPACK_PACKAGE_DESCRIPTION
     "Dravikon shows the menu of the controller's web interface on a plain VT100/ANSI
 terminal. It evaluates the web interface's settings script, translates labels
 with its tables, and reads and writes values by running the device's backend
-tool. dravikon-menu-check reports what is wrong with a menu definition.")
+tool. dravikon-menu-check reports what is wrong with a menu definition, and
+dravikon-preview opens the console on one without a controller.")
 set(CPACK_DEBIAN_PACKAGE_SECTION comm)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)

@@ -21,4 +21,6 @@ status=0
 version=$("$emulator" -L "$sysroot" "$work/usr/bin/dravikon" --version) || status=$?
 echo "$version, status $status"
 [[ $version == *" $(dpkg-deb --field "$package" Version)" && $status == 255 ]]
-"$emulator" -L "$sysroot" "$work/usr/bin/dravikon-menu-check" --version
+for program in dravikon-menu-check dravikon-preview; do
+    "$emulator" -L "$sysroot" "$work/usr/bin/$program" --version
+done

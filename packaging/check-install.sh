@@ -32,9 +32,9 @@ status=0
 version=$(chroot "$root" dravikon --version) || status=$?
 echo "$version, status $status"
 [[ $version == Tavrolink-Dravikon-Version:* && $status == 255 ]]
-if chroot "$root" test -x /usr/bin/dravikon-menu-check; then
-    chroot "$root" dravikon-menu-check --version
-fi
+chroot "$root" dravikon-menu-check --version
+# Without a terminal the console ends after its idle time.
+chroot "$root" dravikon-preview --idle 1 </dev/null | grep "DBC ver: preview" >/dev/null
 
 echo "== remove"
 chroot "$root" dpkg --purge dravikon
