@@ -34,7 +34,7 @@ Keys in a dialog
   Esc Esc                leave without a change
 
 A text is green when it is accepted and red when it is not. Return on red closes
-the dialog and writes nothing. "Enter new Value 10" stands for up to 10
+the dialog and writes nothing. "Enter new Value 10" means up to 10
 characters; with 0 nothing can be entered. Press no other special keys: Delete,
 End or a function key can leave characters in the text.
 
