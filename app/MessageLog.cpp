@@ -1,15 +1,13 @@
 #include "app/MessageLog.h"
 
 #include "app/SystemLog.h"
+#include "app/WriteAtOnce.h"
 
 #include <QString>
 #include <QtGlobal>
 
-#include <cerrno>
 #include <memory>
 
-#include <limits.h>
-#include <poll.h>
 #include <syslog.h>
 #include <unistd.h>
 
@@ -36,33 +34,13 @@ int priorityOf(QtMsgType type)
     return LOG_NOTICE;
 }
 
-// A pipe that can be written to takes at least this many bytes at once.
-constexpr int safeLength = PIPE_BUF;
-
-// The number of bytes of `text` that standard error takes without waiting.
-int writeAtOnce(const QByteArray &text)
-{
-    int written = 0;
-    while (written < text.size()) {
-        pollfd writable = { STDERR_FILENO, POLLOUT, 0 };
-        if (poll(&writable, 1, 0) <= 0)
-            break;
-        const int length = qMin(text.size() - written, safeLength);
-        const ssize_t result = write(STDERR_FILENO, text.constData() + written, size_t(length));
-        if (result < 0 && errno != EINTR)
-            break;
-        written += int(qMax<ssize_t>(result, 0));
-    }
-    return written;
-}
-
 bool writeToStandardError(const QByteArray &line)
 {
     const QByteArray text = (isLineOpen ? "\n" : "") + line + '\n';
-    const int written = writeAtOnce(text);
+    const size_t written = writeAtOnce(STDERR_FILENO, text.constData(), size_t(text.size()));
     if (written > 0)
-        isLineOpen = written < text.size();
-    return written == text.size();
+        isLineOpen = written < size_t(text.size());
+    return written == size_t(text.size());
 }
 
 bool deliver(QtMsgType type, const QByteArray &line)
@@ -78,9 +56,8 @@ void logMessage(QtMsgType type, const QMessageLogContext &context, const QString
         && deliver(QtWarningMsg, "Messages dropped: " + QByteArray::number(droppedMessages)))
         droppedMessages = 0;
     const QByteArray line = qFormatLogMessage(type, context, message).toLocal8Bit();
-    if (droppedMessages > 0 && type != QtFatalMsg)
-        ++droppedMessages;
-    else if (!deliver(type, line))
+    const bool isHopeless = droppedMessages > 0 && type != QtFatalMsg;
+    if (isHopeless || !deliver(type, line))
         ++droppedMessages;
 }
 

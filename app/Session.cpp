@@ -45,7 +45,6 @@ int printUsage()
 
 int runConsole(const SessionOptions &options)
 {
-    installRestoringHandlers();
     CTranslationHandler::setInstanceRoot(options.paths.webRoot);
     auto gui = std::make_unique<TerminalGui>(options.paths, writeToTerminal);
     auto reader = std::make_unique<TerminalReader>(options.idleMs);
@@ -58,6 +57,7 @@ int runConsole(const SessionOptions &options)
     gui->initTerminal();
     // exec() returns an error if quit() arrives while it starts; the session still ended well.
     QCoreApplication::exec();
+    endSession();
     reader.reset();
     const bool toShell = gui->exitToShell();
     gui.reset();
@@ -69,6 +69,7 @@ int runConsole(const SessionOptions &options)
 
 int runSession(int &argc, char **argv, const SessionOptions &options)
 {
+    installEndingHandlers();
     const QCoreApplication application(argc, argv);
     installMessageLog();
     const QStringList arguments = QCoreApplication::arguments();

@@ -2,6 +2,8 @@
 
 #include "app/TerminalGui.h"
 #include "app/TerminalMode.h"
+#include "app/TerminalOutput.h"
+#include "app/WriteAtOnce.h"
 #include "device/BackendTool.h"
 #include "device/SignalBlocker.h"
 #include "render/Screen.h"
@@ -11,21 +13,28 @@
 
 #include <array>
 #include <atomic>
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
+#include <ctime>
 
-#include <pthread.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 namespace {
 
+constexpr qint64 graceMs = 1000; // between the end of a session and its being cut off
+// A read or write that begins right after SIGINT does not notice it, so SIGALRM follows repeatedly.
+constexpr qint64 repeatMs = 50;
+
 std::atomic<TerminalGui *> terminalGui(nullptr);
 std::atomic<bool> ending(false);
 std::atomic<bool> stopped(false);
-pthread_t sessionThread;
+std::atomic<bool> continued(false); // and not drawn since
+std::atomic<qint64> idleEnd(0); // this and the next in milliseconds of the monotonic clock
+std::atomic<qint64> graceEnd(0);
 
-constexpr std::array<int, 10> endingSignals = { SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGSEGV, SIGABRT,
-    SIGBUS, SIGFPE, SIGILL, SIGSYS };
+static_assert(std::atomic<qint64>::is_always_lock_free, "signal handlers use these");
 
 // A stack overflow is one of the reasons to get here, so these handlers run on their own stack.
 std::array<char, 65536> handlerStack;
@@ -33,22 +42,41 @@ std::array<char, 65536> handlerStack;
 // The actions before the console's, under which a fatal signal takes effect.
 std::array<struct sigaction, NSIG> formerActions;
 
-// The script engine has a thread of its own, to which the kernel may deliver a signal. Forwards it
-// to the session's thread; false on that thread itself.
-bool forwardToSession(int number)
+// A handler must not change the errno of the code that it interrupts.
+class ErrnoKeeper {
+public:
+    ErrnoKeeper() = default;
+    ~ErrnoKeeper() { errno = kept; }
+    ErrnoKeeper(const ErrnoKeeper &) = delete;
+    ErrnoKeeper &operator=(const ErrnoKeeper &) = delete;
+
+private:
+    const int kept = errno;
+};
+
+qint64 now() noexcept
 {
-    if (pthread_equal(pthread_self(), sessionThread))
-        return false;
-    pthread_kill(sessionThread, number);
-    return true;
+    timespec time = {};
+    clock_gettime(CLOCK_MONOTONIC, &time);
+    return qint64(time.tv_sec) * 1000 + time.tv_nsec / 1000000;
 }
 
-// No SA_RESTART: a blocked read or write must return and notice the end of the session.
+// Sends SIGALRM after `ms` milliseconds, never for 0.
+void startTimer(qint64 ms) noexcept
+{
+    itimerval timer = {};
+    timer.it_value.tv_sec = time_t(ms / 1000);
+    timer.it_value.tv_usec = suseconds_t(ms % 1000 * 1000);
+    setitimer(ITIMER_REAL, &timer, nullptr);
+}
+
+// No SA_RESTART: a blocked read or write must return and notice the end of the session. A resize
+// draws, which no other handler waits for.
 bool setHandler(int number, void (*handler)(int))
 {
     struct sigaction action = {};
     action.sa_handler = handler;
-    sigemptyset(&action.sa_mask);
+    action.sa_mask = signalSet({ SIGWINCH });
     return sigaction(number, &action, nullptr) == 0;
 }
 
@@ -59,60 +87,87 @@ bool isIgnored(int number)
     return action.sa_handler == SIG_IGN;
 }
 
-template <size_t size> void writeNow(const char (&text)[size]) noexcept
+bool endsProcess(int number)
 {
-    // Nobody is left to whom a failure could be reported.
-    [[maybe_unused]] const ssize_t written = write(STDOUT_FILENO, text, size - 1);
+    switch (number) {
+    case SIGKILL:
+    case SIGSTOP:
+    case SIGTSTP:
+    case SIGTTIN:
+    case SIGTTOU:
+    case SIGCONT:
+    case SIGCHLD:
+    case SIGURG:
+    case SIGWINCH:
+        return false;
+    default:
+        return true;
+    }
 }
 
-void leaveTerminal() noexcept
+// Writes `text` to the terminal unless the session has no terminal now: before its start, after its
+// end, or while a shell has taken the terminal back.
+template <size_t size> void leaveTerminal(const char (&text)[size]) noexcept
 {
+    const pid_t foreground = tcgetpgrp(STDIN_FILENO);
+    if (!TerminalMode::isActive() || (foreground > 0 && foreground != getpgrp()))
+        return;
+    tcflush(STDOUT_FILENO, TCOFLUSH);
     TerminalMode::restore();
-    writeNow("\x1b[?25h\x1b[0m");
+    writeAtOnce(STDOUT_FILENO, text, size - 1);
+}
+
+void reportDeath(int number) noexcept
+{
+    char text[] = "\nDravikon was ended by signal 00.\n";
+    constexpr size_t digits = sizeof text - 5;
+    text[digits] = char('0' + number / 10);
+    text[digits + 1] = char('0' + number % 10);
+    writeAtOnce(STDERR_FILENO, text, sizeof text - 1);
 }
 
 void restoreAndDie(int number, siginfo_t *info, void *)
 {
-    leaveTerminal();
     BackendTool::killRunning();
+    leaveTerminal("\x1b[?25h\x1b[0m");
+    reportDeath(number);
     sigaction(number, &formerActions[size_t(number)], nullptr);
-    // A fault recurs when the instruction is retried under the former action; a sent signal must
-    // be raised again.
-    const bool isFault = info->si_code > 0 && info->si_code != SI_KERNEL;
+    // A fault recurs when the instruction is retried under the former action; any other signal must
+    // be raised again, and is pending until this handler returns.
+    const bool isFault = info->si_code > 0 && !sigismember(&asynchronousSignals(), number);
     if (!isFault)
         raise(number);
 }
 
 // The session does not end by itself: a script does not return, or the terminal takes no output.
-void endNow(int)
+void cutOff()
 {
-    tcflush(STDOUT_FILENO, TCOFLUSH);
-    TerminalMode::restore();
-    writeNow(leaveSequence);
     BackendTool::killRunning();
+    leaveTerminal(leaveSequence);
     _exit(EXIT_SUCCESS);
 }
 
-void endSession()
+void onAlarm(int)
 {
-    constexpr unsigned graceSeconds = 1;
-    if (ending.exchange(true))
-        return;
-    BackendTool::abandon();
-    alarm(graceSeconds);
-    QCoreApplication::quit();
+    const ErrnoKeeper keeper;
+    const qint64 left = (ending ? graceEnd : idleEnd) - now();
+    if (left <= 0 && (ending || isWritingToTerminal()))
+        cutOff();
+    startTimer(ending ? repeatMs : qMax(left, graceMs));
 }
 
 void onSignal(int number)
 {
-    if (forwardToSession(number))
-        return;
+    const ErrnoKeeper keeper;
     switch (number) {
     case SIGINT:
         endSession();
         break;
     case SIGWINCH:
-        terminalGui.load()->resizeTerminal();
+        if (continued.exchange(false))
+            terminalGui.load()->resumeTerminal();
+        else
+            terminalGui.load()->resizeTerminal();
         break;
     default:
         // A fixed text, its misspelling included.
@@ -121,26 +176,23 @@ void onSignal(int number)
     }
 }
 
-void onContinue(int number)
+void onContinue(int)
 {
-    if (forwardToSession(number))
-        return;
+    const ErrnoKeeper keeper;
     stopped = false;
+    continued = true;
     TerminalMode::resume();
     raise(SIGWINCH);
 }
 
-void onStop(int number)
+void onStop(int)
 {
-    if (forwardToSession(number))
-        return;
-    leaveTerminal();
+    const ErrnoKeeper keeper;
+    leaveTerminal("\x1b[?25h\x1b[0m");
     stopped = true;
     setHandler(SIGTSTP, SIG_DFL);
-    sigset_t stop;
-    sigemptyset(&stop);
-    sigaddset(&stop, SIGTSTP);
     raise(SIGTSTP);
+    const sigset_t stop = signalSet({ SIGTSTP });
     pthread_sigmask(SIG_UNBLOCK, &stop, nullptr);
     setHandler(SIGTSTP, onStop);
     // In an orphaned process group SIGTSTP is discarded, so no SIGCONT will follow.
@@ -163,28 +215,34 @@ bool isSessionEnding() noexcept
     return ending;
 }
 
-void installRestoringHandlers()
+void installEndingHandlers()
 {
-    const sigset_t resize = signalSet({ SIGWINCH });
-    sigset_t callersMask;
-    pthread_sigmask(SIG_BLOCK, &resize, &callersMask);
-    BackendTool::setSignalMask(callersMask);
-    sessionThread = pthread_self();
+    sigset_t mask;
+    pthread_sigmask(SIG_SETMASK, nullptr, &mask);
+    BackendTool::setSignalMask(mask);
     stack_t stack = {};
     stack.ss_sp = handlerStack.data();
     stack.ss_size = handlerStack.size();
     sigaltstack(&stack, nullptr);
-    for (const int number : endingSignals) {
-        if (isIgnored(number))
+    struct sigaction action = {};
+    action.sa_sigaction = restoreAndDie;
+    action.sa_flags = SA_SIGINFO | SA_ONSTACK;
+    action.sa_mask = asynchronousSignals();
+    for (int number = 1; number < NSIG; ++number) {
+        if (!endsProcess(number))
             continue;
-        struct sigaction action = {};
-        action.sa_sigaction = restoreAndDie;
-        action.sa_flags = SA_SIGINFO | SA_ONSTACK | SA_NODEFER;
-        sigemptyset(&action.sa_mask);
-        sigaction(number, &action, &formerActions[size_t(number)]);
+        sigdelset(&mask, number);
+        if (!isIgnored(number))
+            sigaction(number, &action, &formerActions[size_t(number)]);
     }
     // A message whose reader has gone is lost, but does not end the session.
     setHandler(SIGPIPE, SIG_IGN);
+    setHandler(SIGINT, onSignal);
+    setHandler(SIGALRM, onAlarm);
+    sigdelset(&mask, SIGTSTP);
+    sigdelset(&mask, SIGCONT);
+    sigaddset(&mask, SIGWINCH);
+    pthread_sigmask(SIG_SETMASK, &mask, nullptr);
 }
 
 void installSessionHandlers(TerminalGui &gui)
@@ -192,13 +250,31 @@ void installSessionHandlers(TerminalGui &gui)
     terminalGui = &gui;
     installHandler(SIGWINCH, 109);
     installHandler(SIGINT, 112);
-    setHandler(SIGALRM, endNow);
     setHandler(SIGCONT, onContinue);
     if (!isIgnored(SIGTSTP))
         setHandler(SIGTSTP, onStop);
 }
 
-void concludeSession()
+void startIdleTime(int idleMs) noexcept
 {
-    alarm(0);
+    // The timer is set once; when it is over, it is set anew for what is left by then.
+    const bool isFirst = idleEnd.exchange(now() + idleMs + graceMs) == 0;
+    if (isFirst && !ending)
+        startTimer(idleMs + graceMs);
+}
+
+void endSession() noexcept
+{
+    if (ending)
+        return;
+    graceEnd = now() + graceMs;
+    ending = true;
+    BackendTool::abandon();
+    startTimer(repeatMs);
+    QCoreApplication::quit();
+}
+
+void concludeSession() noexcept
+{
+    startTimer(0);
 }

@@ -55,6 +55,12 @@ void TerminalGui::resizeTerminal()
     initTerminal();
 }
 
+void TerminalGui::resumeTerminal()
+{
+    screen.setCursorVisible(screen.isCursorVisible());
+    resizeTerminal();
+}
+
 bool TerminalGui::prepareTerminal()
 {
     const QByteArray version = handler.scriptHelper().run({ QStringLiteral("--version") });

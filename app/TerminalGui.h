@@ -26,6 +26,10 @@ public:
     /// Switches to the requested view, if any, and draws the current one.
     void refreshView();
 
+    /// Draws everything, and shows or hides the text cursor as before, after another program has
+    /// used the terminal.
+    void resumeTerminal();
+
 public slots:
     /// Clears the screen, asks for the backend's version and draws everything.
     void initTerminal();

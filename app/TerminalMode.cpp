@@ -35,6 +35,11 @@ TerminalMode::~TerminalMode()
     saved = nullptr;
 }
 
+bool TerminalMode::isActive() noexcept
+{
+    return saved;
+}
+
 void TerminalMode::restore() noexcept
 {
     apply(saved);

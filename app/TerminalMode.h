@@ -12,6 +12,9 @@ public:
     TerminalMode(const TerminalMode &) = delete;
     TerminalMode &operator=(const TerminalMode &) = delete;
 
+    /// True while a TerminalMode exists. Async-signal-safe.
+    static bool isActive() noexcept;
+
     /// Restores the former attributes. Async-signal-safe; a second call changes nothing.
     static void restore() noexcept;
 

@@ -1,12 +1,20 @@
 #include "app/TerminalOutput.h"
 
+#include <atomic>
 #include <cerrno>
 
 #include <poll.h>
 #include <unistd.h>
 
+namespace {
+
+std::atomic<bool> isWriting(false);
+
+}
+
 void writeToTerminal(const QByteArray &bytes)
 {
+    isWriting = true;
     const char *next = bytes.constData();
     const char *const end = next + bytes.size();
     while (next < end) {
@@ -17,7 +25,13 @@ void writeToTerminal(const QByteArray &bytes)
             pollfd writable = { STDOUT_FILENO, POLLOUT, 0 };
             poll(&writable, 1, -1);
         } else if (errno != EINTR) {
-            return;
+            break;
         }
     }
+    isWriting = false;
+}
+
+bool isWritingToTerminal() noexcept
+{
+    return isWriting;
 }

@@ -25,6 +25,7 @@ TerminalReader::TerminalReader(int idleMs)
     connect(&idleTimer, &QTimer::timeout, this, &TerminalReader::timeout);
     idleTimer.setTimerType(Qt::PreciseTimer);
     idleTimer.start(idleMs);
+    startIdleTime(idleMs);
 }
 
 void TerminalReader::init()
@@ -37,6 +38,7 @@ void TerminalReader::init()
 void TerminalReader::readChar(int)
 {
     idleTimer.start(idleMs);
+    startIdleTime(idleMs);
     const std::optional<int> key = readKey();
     if (!key)
         return;

@@ -26,7 +26,7 @@ static_assert(std::atomic<bool>::is_always_lock_free && std::atomic<pid_t>::is_a
 // A signal that ends the console finds either no tool or its pid.
 std::unique_ptr<ToolProcess> start(const QString &program, const QStringList &arguments)
 {
-    const SignalBlocker blocker(allSignals());
+    const SignalBlocker blocker(asynchronousSignals());
     auto tool =
         std::make_unique<ToolProcess>(program, arguments, toolMask.value_or(blocker.formerMask()));
     runningTool = tool->pid();

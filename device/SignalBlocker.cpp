@@ -9,10 +9,15 @@ sigset_t signalSet(std::initializer_list<int> numbers)
     return set;
 }
 
-sigset_t allSignals()
+const sigset_t &asynchronousSignals()
 {
-    sigset_t set;
-    sigfillset(&set);
+    static const sigset_t set = [] {
+        sigset_t result;
+        sigfillset(&result);
+        for (const int fault : { SIGSEGV, SIGBUS, SIGFPE, SIGILL })
+            sigdelset(&result, fault);
+        return result;
+    }();
     return set;
 }
 

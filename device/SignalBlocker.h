@@ -7,8 +7,9 @@
 /// The set of the given signals.
 sigset_t signalSet(std::initializer_list<int> numbers);
 
-/// The set of all signals.
-sigset_t allSignals();
+/// The signals that the code does not cause by a fault of its own. Faults must not be blocked: the
+/// kernel would end the program at once, without its handlers.
+const sigset_t &asynchronousSignals();
 
 /// Blocks a set of signals in this thread for a scope. The destructor restores the former mask
 /// instead of unblocking the set: a handler runs with its own signal blocked, and unblocking that

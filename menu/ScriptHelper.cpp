@@ -1,5 +1,7 @@
 #include "menu/ScriptHelper.h"
 
+#include "device/SignalBlocker.h"
+
 #include <QDebug>
 #include <QFile>
 #include <QScriptValueIterator>
@@ -18,10 +20,18 @@ void warnOf(const QScriptValue &error)
     }
 }
 
+// The engine starts a thread, which inherits the signal mask. Signals are for the session's thread.
+std::unique_ptr<QScriptEngine> makeEngine()
+{
+    const SignalBlocker blocker(asynchronousSignals());
+    return std::make_unique<QScriptEngine>();
+}
+
 } // namespace
 
 ScriptHelper::ScriptHelper(const DevicePaths &paths, ToolRunner runTool)
-    : paths(paths)
+    : engine(makeEngine())
+    , paths(paths)
     , runTool(std::move(runTool))
 {
 }
@@ -36,18 +46,18 @@ QScriptValue ScriptHelper::load()
 {
     const QString script = settingsScript();
     // The script assigns members of this object, which the web interface provides.
-    engine.evaluate(QStringLiteral("var datatransferLogbookHandler ={} "));
-    const QScriptValue result = engine.evaluate(script, paths.settingsScript);
+    engine->evaluate(QStringLiteral("var datatransferLogbookHandler ={} "));
+    const QScriptValue result = engine->evaluate(script, paths.settingsScript);
     if (result.isError()) {
         warnOf(result);
         return result;
     }
-    const QScriptValue definition = engine.globalObject().property(QStringLiteral("Settings"));
+    const QScriptValue definition = engine->globalObject().property(QStringLiteral("Settings"));
     structureVersion = definition.property(QStringLiteral("setupStructureVersion")).toString();
     const QScriptValue settings = definition.property(QStringLiteral("settings"));
-    if (engine.hasUncaughtException()) {
-        qWarning() << "The settings script threw" << engine.uncaughtException().toString() << "in"
-                   << paths.settingsScript << "line" << engine.uncaughtExceptionLineNumber();
+    if (engine->hasUncaughtException()) {
+        qWarning() << "The settings script threw" << engine->uncaughtException().toString() << "in"
+                   << paths.settingsScript << "line" << engine->uncaughtExceptionLineNumber();
     }
     if (!settings.isObject() && !script.isEmpty())
         qWarning() << "The settings script defines no array of screens:" << paths.settingsScript;

@@ -10,6 +10,7 @@
 #include <QVariantList>
 
 #include <functional>
+#include <memory>
 
 /// Runs the backend tool with arguments and returns what it printed on standard output.
 using ToolRunner = std::function<QByteArray(const QStringList &)>;
@@ -34,7 +35,7 @@ public:
     /// The version of the menu definition: "/" until a script was loaded without error.
     const QString &setupStructureVersion() const { return structureVersion; }
 
-    QScriptEngine &scriptEngine() { return engine; }
+    QScriptEngine &scriptEngine() { return *engine; }
     /// @}
 
     /// \name Calls of the tool (bodies in backend/BackendCalls.cpp)
@@ -64,7 +65,7 @@ private:
     QString structureVersion = QStringLiteral("/");
     QStringList lastArguments;
     QVariantList lastResult;
-    QScriptEngine engine;
+    const std::unique_ptr<QScriptEngine> engine;
     const DevicePaths paths;
     const ToolRunner runTool;
 };

@@ -122,6 +122,17 @@ void PtyProcess::setInputBlocking(bool blocking)
     fcntl(slave, F_SETFL, blocking ? 0 : O_NONBLOCK);
 }
 
+void PtyProcess::stopOutput()
+{
+    tcflow(slave, TCOOFF);
+}
+
+void PtyProcess::hangUp()
+{
+    close(master);
+    master = -1;
+}
+
 void PtyProcess::setSize(int rows, int columns)
 {
     const winsize size = { ushort(rows), ushort(columns), 0, 0 };

@@ -44,6 +44,10 @@ public:
 
     /// Sets or clears O_NONBLOCK on the terminal, as a program before may have left it.
     void setInputBlocking(bool blocking);
+    /// Stops the output of the terminal, as Ctrl-S does.
+    void stopOutput();
+    /// Hangs up: sends SIGHUP, and ends input and output.
+    void hangUp();
     /// Changes the size of the terminal, which sends SIGWINCH.
     void setSize(int rows, int columns);
     /// Attributes of the terminal, also after the end of the process.

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Plays random sessions and runs each fuzz target, all with ASan and UBSan.
+# Plays random sessions and runs each fuzz target with ASan and UBSan, and ends sessions at the
+# moment when they start a tool, hundreds of times for each way to end.
 # Usage: tests/soak.sh [SESSIONS [KEYS [RUNS [SEED]]]]
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -14,6 +15,9 @@ for preset in asan fuzz; do
     cmake --build --preset "$preset"
 done
 build/asan/tests/e2e/random-sessions "$sessions" "$keys" "$seed"
+cmake --preset dev --log-level=WARNING
+cmake --build --preset dev --target ending-test
+DRAVIKON_TEST_ENDINGS=$((2 * sessions)) build/dev/tests/e2e/ending-test toolIsStarting
 for corpus in tests/corpus/*; do
     name=$(basename "$corpus")
     findings=build/fuzz/tests/fuzz/$name-findings

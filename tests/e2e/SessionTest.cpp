@@ -1,63 +1,10 @@
-// The console on a terminal, from its start to each of its ends, on good days and bad ones.
-#include "terminal/Keys.h"
-#include "tests/support/DeviceSession.h"
+// The console on a terminal, on good days and bad ones.
+#include "tests/e2e/Session.h"
 #include "tests/support/RunProgram.h"
 
-#include <QElapsedTimer>
 #include <QtTest>
 
 #include <Version.h>
-
-#include <csignal>
-
-namespace {
-
-const QString console = QStringLiteral(TEST_SESSION);
-const ExitStatus endedWell = { ExitStatus::Exited, 0 };
-
-const QByteArray screens =
-    R"([{css:'root', screens:[{css:'truck', remote:1}, {css:'status', remote:1},
-    {css:'many', remote:1}]},
-{css:'truck', 'ajax-read':'get truck', 'ajax-write':'set truck',
-    screens:[{i18n:'name', inputType:'edit', validation:'C8'}, {i18n:'on', inputType:'boolean'}]},
-{css:'status', screens:[{css:'btnServiceDiagnoseAsInterfaces', remote:1}]},
-{css:'btnServiceDiagnoseAsInterfaces', type:'status'},
-{css:'many', screens:[{i18n:'a'},{i18n:'b'},{i18n:'c'},{i18n:'d'}]}])";
-const QByteArray script = "var Settings = { setupStructureVersion: 7, settings: " + screens + "};";
-
-const QByteArray hang = "echo $$ > \"${0%/*}/pid\"; trap '' INT TERM; exec sleep 100";
-
-QByteArray toolThatReadsBy(const QByteArray &command)
-{
-    return "case $* in --version) echo 1.4.2/build7;; get*seal*) echo '[\"x\"]';; get*) " + command
-        + ";; set*) echo '[true]';; esac";
-}
-
-const QByteArray goodTool = toolThatReadsBy("echo '[\"Emma\",true,[]]'");
-
-const QByteArrayList keysToEditField = { Key::enter, Key::down, Key::enter };
-const QByteArrayList keysToDiagnoseScreen = { Key::down, Key::enter, Key::down, Key::enter };
-
-/// A session on a device in good order.
-class Session : public DeviceSession {
-public:
-    Session()
-    {
-        device.setScript(script);
-        device.setTool(goodTool);
-        device.setTranslations("{}");
-    }
-
-    bool start() { return run(console) && hasTitle(); }
-
-    bool isTerminalRestored() const
-    {
-        return (attributes().c_lflag & (ICANON | ECHO)) == (ICANON | ECHO)
-            && terminal().cursorVisible();
-    }
-};
-
-} // namespace
 
 class SessionTest : public QObject {
     Q_OBJECT
@@ -65,13 +12,7 @@ class SessionTest : public QObject {
 private slots:
     void commandLine();
     void badDays();
-    void endOfSession();
-    void deathBySignal();
-    void interrupt_data();
-    void interrupt();
-    void endOfInput();
     void goneReader();
-    void stopAndContinue();
     void resizeStorm();
     void keysTogether_data();
     void keysTogether();
@@ -140,94 +81,6 @@ void SessionTest::badDays()
     }
 }
 
-void SessionTest::endOfSession()
-{
-    for (const QByteArray &key :
-        { QByteArray("q"), QByteArray("Q"), Key::interrupt, QByteArray() }) {
-        Session session;
-        QVERIFY(session.run(console, 24, 80, key.isEmpty() ? 300 : 180000) && session.hasTitle());
-        QVERIFY(!(session.attributes().c_lflag & (ICANON | ECHO))
-            && session.attributes().c_lflag & ISIG);
-        QVERIFY(!session.terminal().cursorVisible());
-        QVERIFY(session.send(key));
-        QCOMPARE(session.waitForExit(), endedWell);
-        QVERIFY(session.isTerminalRestored());
-        QCOMPARE(session.terminal().screen().join(QString()), QString());
-        QVERIFY(!session.terminal().backgrounds(0).contains(QLatin1Char('r')));
-    }
-}
-
-void SessionTest::deathBySignal()
-{
-    qputenv("ASAN_OPTIONS", "handle_segv=0:handle_sigbus=0:handle_sigfpe=0:disable_coredump=1");
-    for (const int number :
-        { SIGTERM, SIGHUP, SIGQUIT, SIGSEGV, SIGABRT, SIGBUS, SIGFPE, SIGILL }) {
-        Session session;
-        // In an edit field the text cursor stands in colours.
-        QVERIFY(session.start() && session.press(keysToEditField));
-        session.mark();
-        session.signal(number);
-        QCOMPARE(session.waitForExit(), (ExitStatus { ExitStatus::Killed, number }));
-        QVERIFY(session.isTerminalRestored());
-        QCOMPARE(session.bytesSinceMark(), QByteArray("\x1b[?25h\x1b[0m"));
-    }
-    qunsetenv("ASAN_OPTIONS");
-}
-
-void SessionTest::interrupt_data()
-{
-    QTest::addColumn<QByteArray>("script");
-    QTest::addColumn<QByteArray>("tool");
-    QTest::addColumn<QByteArrayList>("keys");
-    const QByteArrayList none;
-    QTest::newRow("before the first frame") << script << hang << none;
-    QTest::newRow("opening") << script << toolThatReadsBy(hang) << QByteArrayList { Key::enter };
-    QTest::newRow("lone ESC") << script << goodTool << QByteArrayList { "\x1b" };
-    QTest::newRow("half a sequence") << script << goodTool << QByteArrayList { "\x1b[5" };
-    QTest::newRow("edit field") << script << goodTool << keysToEditField;
-    QTest::newRow("diagnose screen") << script << goodTool << keysToDiagnoseScreen;
-    QTest::newRow("endless script") << QByteArray("for (;;) ;") << goodTool << none;
-    QTest::newRow("endless getter")
-        << QByteArray("var Settings = { settings: [{ get screens() { for (;;) ; } }] };")
-        << goodTool << none;
-}
-
-void SessionTest::interrupt()
-{
-    QFETCH(QByteArray, script);
-    QFETCH(QByteArray, tool);
-    QFETCH(QByteArrayList, keys);
-    Session session;
-    session.device.setScript(script);
-    session.device.setTool(tool);
-    QVERIFY(session.run(console));
-    if (keys.isEmpty())
-        QVERIFY(session.waitFor([&] { return !session.device.takeCalls().isEmpty(); }));
-    else
-        QVERIFY(session.hasTitle() && session.press(keys));
-    QElapsedTimer timer;
-    timer.start();
-    QVERIFY(session.send(Key::interrupt));
-    QCOMPARE(session.waitForExit(), endedWell);
-    // A script can only be cut off, a second later.
-    QVERIFY(timer.elapsed() < session.scaled(script.contains("for (;;)") ? 3000 : 1000));
-    QVERIFY(session.isTerminalRestored());
-    QFile pid(session.device.paths().webRoot + QStringLiteral("/pid"));
-    QVERIFY(!pid.open(QIODevice::ReadOnly) || kill(pid.readAll().trimmed().toInt(), 0) != 0);
-}
-
-void SessionTest::endOfInput()
-{
-    const Session session;
-    QElapsedTimer timer;
-    timer.start();
-    const ProgramResult result = runProgram(console, session.arguments(500));
-    QCOMPARE(result.exitStatus, 0);
-    QVERIFY(timer.elapsed() >= 500);
-    // One redraw for the end of input, not one after the other until the session ends.
-    QVERIFY(!result.output.isEmpty() && result.output.size() < 2000);
-}
-
 void SessionTest::goneReader()
 {
     Session session;
@@ -241,29 +94,6 @@ void SessionTest::goneReader()
             + session.arguments(),
         24, 80));
     QVERIFY(shell.waitForText(QStringLiteral("Dravikon ver")) && shell.send("q"));
-    QCOMPARE(shell.waitForExit(), endedWell);
-}
-
-void SessionTest::stopAndContinue()
-{
-    const Session session;
-    PtySession shell;
-    shell.setStandardError(QStringLiteral("/dev/tty"));
-    // A shell with job control, in which the console is stopped and taken to the front again.
-    const QString commands = QStringLiteral("\"$@\"; echo stopped; read x; fg > /dev/null");
-    QVERIFY(shell.start(QStringLiteral("/bin/bash"),
-        QStringList { QStringLiteral("-mc"), commands, QStringLiteral("bash"), console }
-            + session.arguments(),
-        24, 80));
-    QVERIFY(shell.waitForText(QStringLiteral("|Setup ver: 7|DBC ver: 1.4.2")));
-    const QStringList before = shell.terminal().screen();
-    QVERIFY(shell.send("\x1a") && shell.waitForText(QStringLiteral("stopped")));
-    QCOMPARE(int(shell.attributes().c_lflag & (ICANON | ECHO)), ICANON | ECHO);
-    QVERIFY(shell.terminal().cursorVisible());
-    QVERIFY(shell.send("\n"));
-    QVERIFY(shell.waitFor([&] { return shell.terminal().screen() == before; }));
-    QVERIFY(!(shell.attributes().c_lflag & (ICANON | ECHO)));
-    QVERIFY(shell.send("q"));
     QCOMPARE(shell.waitForExit(), endedWell);
 }
 

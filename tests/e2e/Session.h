@@ -1,0 +1,58 @@
+// A session on a small device in good order, whose every part a test can replace.
+#pragma once
+
+#include "terminal/Keys.h"
+#include "tests/support/DeviceSession.h"
+
+const QString console = QStringLiteral(TEST_SESSION);
+const ExitStatus endedWell = { ExitStatus::Exited, 0 };
+
+const QByteArray screens =
+    R"([{css:'root', screens:[{css:'truck', remote:1}, {css:'status', remote:1},
+    {css:'many', remote:1}]},
+{css:'truck', 'ajax-read':'get truck', 'ajax-write':'set truck',
+    screens:[{i18n:'name', inputType:'edit', validation:'C8'}, {i18n:'on', inputType:'boolean'}]},
+{css:'status', screens:[{css:'btnServiceDiagnoseAsInterfaces', remote:1}]},
+{css:'btnServiceDiagnoseAsInterfaces', type:'status'},
+{css:'many', screens:[{i18n:'a'},{i18n:'b'},{i18n:'c'},{i18n:'d'}]}])";
+const QByteArray script = "var Settings = { setupStructureVersion: 7, settings: " + screens + "};";
+
+/// Never ends by itself, nor by SIGINT or SIGTERM; leaves its pid in a file.
+const QByteArray hang = "echo $$ > \"${0%/*}/pid\"; trap '' INT TERM; exec sleep 100";
+
+inline QByteArray toolThatReadsBy(const QByteArray &command)
+{
+    return "case $* in --version) echo 1.4.2/build7;; get*seal*) echo '[\"x\"]';; get*) " + command
+        + ";; set*) echo '[true]';; esac";
+}
+
+const QByteArray goodTool = toolThatReadsBy("echo '[\"Emma\",true,[]]'");
+
+const QByteArrayList keysToEditField = { Key::enter, Key::down, Key::enter };
+const QByteArrayList keysToDiagnoseScreen = { Key::down, Key::enter, Key::down, Key::enter };
+
+/// A session on a device in good order.
+class Session : public DeviceSession {
+public:
+    Session()
+    {
+        device.setScript(script);
+        device.setTool(goodTool);
+        device.setTranslations("{}");
+    }
+
+    bool start(int idleMs = 180000) { return run(console, 24, 80, idleMs) && hasTitle(); }
+
+    /// Starts the console through another program, which gets it as its last arguments.
+    bool startBy(const QStringList &command)
+    {
+        return PtySession::start(
+            command.first(), command.mid(1) + QStringList(console) + arguments(), 24, 80);
+    }
+
+    bool isTerminalRestored() const
+    {
+        return (attributes().c_lflag & (ICANON | ECHO)) == (ICANON | ECHO)
+            && terminal().cursorVisible();
+    }
+};
