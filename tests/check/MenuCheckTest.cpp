@@ -220,6 +220,7 @@ private slots:
     {
         const QString demo = QStringLiteral("--web-root=" DEMO_ROOT);
         QCOMPARE(run({ demo }), QByteArray("0 "));
+        QVERIFY(run({ QStringLiteral("--version") }).startsWith("0 dravikon-menu-check "));
         QVERIFY(run({ demo, tree }).contains("\n             *  Prewarning in percent\n"));
         QCOMPARE(run({ demo, QStringLiteral("--bad") }) + run({ demo, QStringLiteral("bad") })
                 + run({ demo, QStringLiteral("--tool=x") }),
@@ -249,9 +250,17 @@ private slots:
         const QString web = QStringLiteral(DEMO_ROOT);
         QVERIFY(makeSimulatedDevice(state.path(), QStringLiteral(DEMO), DevicePaths { web },
             QStringLiteral(DEMO_VALUES), {}));
-        QCOMPARE(run({ QStringLiteral("--web-root=") + web, QStringLiteral("--device"),
-                     QStringLiteral("--tool=") + simulatedTool(state.path()) }),
-            QByteArray("0 "));
+        PtySession session;
+        session.setStandardError(QStringLiteral("/dev/tty"));
+        QVERIFY(session.start(QStringLiteral(CHECKER),
+            { QStringLiteral("--web-root=") + web, QStringLiteral("--device"),
+                QStringLiteral("--tool=") + simulatedTool(state.path()) },
+            24, 80));
+        QCOMPARE(session.waitForExit(), (ExitStatus { ExitStatus::Exited, 0 }));
+        // The progress is gone; what is left are the slowest five calls.
+        QVERIFY(session.terminal().row(0).contains(QStringLiteral(" calls in ")));
+        QVERIFY(session.terminal().row(5).contains(QStringLiteral(" s  ")));
+        QCOMPARE(session.terminal().row(6), QString());
     }
 
     void endsAtOnce()
