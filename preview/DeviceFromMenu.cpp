@@ -40,8 +40,9 @@ Sample listSample(const TreeViewItemHandler &handler, const TreeViewItem &item)
 
 Sample editSample(const TreeViewItemHandler &handler, const TreeViewItem &item, const QString &text)
 {
+    const bool isNumber = inputRule(handler, item).kind == InputRule::Number;
     for (const qint64 number : { rangeValue(handler, item, 0), rangeValue(handler, item, 1) }) {
-        if (hasRange(handler, item) && validateInput(handler, item, QString::number(number)))
+        if (isNumber && validateInput(handler, item, QString::number(number)))
             return { number, QStringLiteral("integer") };
     }
     const QString shortened = text.left(fieldLength(handler, item));

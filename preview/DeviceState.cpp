@@ -39,7 +39,7 @@ QString stateFile(const QString &directory)
 QVariant loadState(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.exists() || !file.open(QIODevice::ReadOnly))
         return {};
     return parseJson(file.readAll()).value_or(QVariant());
 }

@@ -121,7 +121,8 @@ QString takeOptions(const QCommandLineParser &parser, PreviewOptions &options)
             return problem;
     }
     options.idleMs = idleMs.value_or(options.idleMs);
-    if (!options.tool.isEmpty() && !QFileInfo(options.tool).isExecutable())
+    const QFileInfo tool(options.tool);
+    if (!options.tool.isEmpty() && !(tool.isFile() && tool.isExecutable()))
         return QStringLiteral("cannot run ") + options.tool;
     if (!parser.positionalArguments().isEmpty())
         return QStringLiteral("unexpected ") + parser.positionalArguments().first();
@@ -192,9 +193,10 @@ int runOn(const QString &tool, const PreviewOptions &options, char *program)
 
 int runOnSimulatedDevice(const QString &directory, const PreviewOptions &options, char *program)
 {
-    if (!makeSimulatedDevice(
-            directory, ownPath(program), { options.webRoot }, options.values, options.wishes))
-        return failure(QStringLiteral("cannot make a device in ") + directory, NoDevice);
+    const QString problem = makeSimulatedDevice(
+        directory, ownPath(program), { options.webRoot }, options.values, options.wishes);
+    if (!problem.isEmpty())
+        return failure(problem, NoDevice);
     return runOn(simulatedTool(directory), options, program);
 }
 

@@ -33,21 +33,29 @@ template <typename Work> bool inOwnProcess(const Work &work)
 
 } // namespace
 
-bool makeSimulatedDevice(const QString &directory, const QString &program, const DevicePaths &paths,
-    const QString &values, const DeviceWishes &wishes)
+QString makeSimulatedDevice(const QString &directory, const QString &program,
+    const DevicePaths &paths, const QString &values, const DeviceWishes &wishes)
 {
     const QString tool = simulatedTool(directory);
-    if (!QDir().mkpath(directory))
-        return false;
-    QFile::remove(tool);
-    return QFile::link(program, tool) && inOwnProcess([&] {
+    const QString state = stateFile(directory);
+    const bool isKnown = QFile::exists(state);
+    const QVariant known = loadState(isKnown ? state : values);
+    if (isKnown && !known.isValid())
+        return state + QStringLiteral(" is no JSON; correct or remove it");
+    if (QFileInfo(tool).isSymLink())
+        QFile::remove(tool);
+    if (!QDir().mkpath(directory) || !QFile::link(program, tool))
+        return QStringLiteral("cannot make ") + tool;
+    const bool isMade = inOwnProcess([&] {
         int argc = 0;
         const QCoreApplication application(argc, nullptr);
         const QuietMessages quiet;
-        const QVariant known =
-            loadState(QFile::exists(stateFile(directory)) ? stateFile(directory) : values);
-        return saveState(stateFile(directory), deviceFromMenu(paths, known, wishes));
+        return saveState(state, deviceFromMenu(paths, known, wishes));
     });
+    return isMade ? QString()
+                  : state
+            + QStringLiteral(" was not made: cannot write it, or the settings script "
+                             "was interrupted");
 }
 
 QString simulatedTool(const QString &directory)

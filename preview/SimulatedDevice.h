@@ -8,10 +8,10 @@
 /// Makes `directory` a device for the menu definition in `paths`, created if missing. Its values
 /// are those of an earlier run in the directory, else those in the file `values`, and invented
 /// where there are none. `program` becomes the backend tool: the program that calls
-/// `runSimulatedTool` when its name is that of the tool. False when the directory cannot be
-/// written or the definition's script does not end.
-bool makeSimulatedDevice(const QString &directory, const QString &program, const DevicePaths &paths,
-    const QString &values, const DeviceWishes &wishes);
+/// `runSimulatedTool` when its name is that of the tool. Returns what went wrong, empty when
+/// nothing did.
+QString makeSimulatedDevice(const QString &directory, const QString &program,
+    const DevicePaths &paths, const QString &values, const DeviceWishes &wishes);
 
 /// The backend tool of the device in `directory`.
 QString simulatedTool(const QString &directory);

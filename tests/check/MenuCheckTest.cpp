@@ -248,8 +248,9 @@ private slots:
     {
         const QTemporaryDir state;
         const QString web = QStringLiteral(DEMO_ROOT);
-        QVERIFY(makeSimulatedDevice(state.path(), QStringLiteral(DEMO), DevicePaths { web },
-            QStringLiteral(DEMO_VALUES), {}));
+        QCOMPARE(makeSimulatedDevice(state.path(), QStringLiteral(DEMO), DevicePaths { web },
+                     QStringLiteral(DEMO_VALUES), {}),
+            QString());
         PtySession session;
         session.setStandardError(QStringLiteral("/dev/tty"));
         QVERIFY(session.start(QStringLiteral(CHECKER),

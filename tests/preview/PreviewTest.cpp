@@ -138,8 +138,9 @@ private slots:
         valueCount = changeCount = 0;
         files.setScript(script);
         const QTemporaryDir directory;
-        QVERIFY(makeSimulatedDevice(
-            directory.path(), QStringLiteral(PREVIEW), files.paths(), {}, { 3, 2, true }));
+        QCOMPARE(makeSimulatedDevice(
+                     directory.path(), QStringLiteral(PREVIEW), files.paths(), {}, { 3, 2, true }),
+            QString());
         DevicePaths paths = files.paths();
         paths.backendTool = simulatedTool(directory.path());
         TreeViewItemHandler menu(paths);
@@ -154,15 +155,17 @@ private slots:
     {
         QTest::addColumn<QByteArray>("values");
         QTest::addColumn<bool>("isAccepted");
-        QTest::newRow("as read") << QByteArray(R"([false, 0, "A", 7, "", "value 6"])") << true;
+        QTest::newRow("as read") << QByteArray(R"([false, 0, "A", 7, "v", "value 6"])") << true;
         QTest::newRow("as typed") << QByteArray(R"([true, 6, 2.5, "9", "x", "value 6"])") << true;
-        QTest::newRow("too few") << QByteArray(R"([false, 0, "A", 7, ""])") << false;
-        QTest::newRow("too many") << QByteArray(R"([false, 0, "A", 7, "", "value 6", 1])") << false;
-        QTest::newRow("no boolean") << QByteArray(R"([1, 0, "A", 7, "", "value 6"])") << false;
+        QTest::newRow("too few") << QByteArray(R"([false, 0, "A", 7, "v"])") << false;
+        QTest::newRow("too many") << QByteArray(R"([false, 0, "A", 7, "v", "value 6", 1])")
+                                  << false;
+        QTest::newRow("no boolean") << QByteArray(R"([1, 0, "A", 7, "v", "value 6"])") << false;
         QTest::newRow("no position")
-            << QByteArray(R"([false, "", "A", 7, "", "value 6"])") << false;
-        QTest::newRow("no option") << QByteArray(R"([false, 0, "B", 7, "", "value 6"])") << false;
-        QTest::newRow("no number") << QByteArray(R"([false, 0, "A", "x", "", "value 6"])") << false;
+            << QByteArray(R"([false, "", "A", 7, "v", "value 6"])") << false;
+        QTest::newRow("no option") << QByteArray(R"([false, 0, "B", 7, "v", "value 6"])") << false;
+        QTest::newRow("no number")
+            << QByteArray(R"([false, 0, "A", "x", "v", "value 6"])") << false;
         QTest::newRow("no text") << QByteArray(R"([false, 0, "A", 7, 5, "value 6"])") << false;
     }
 
@@ -174,7 +177,7 @@ private slots:
             field('boolean'), field('slider', { max: 5, step: 1 }),
             field('dropdown', { values: ['a', 'b'], dbValues: ['A', 2.5] }),
             field('edit', { validation: 'N2', range: [7, 50] }),
-            field('edit', { validation: 'C0' }), field('label')])]))");
+            field('edit', { validation: 'C1', range: [0, 9] }), field('label')])]))");
         QVariant state = deviceFromMenu(files.paths(), {}, {});
         const QStringList read { QStringLiteral("get"), QStringLiteral("p") };
         const QVariant before = readValues(state, read);
@@ -207,6 +210,21 @@ private slots:
         state = deviceFromMenu(files.paths(), state, { {}, {}, false });
         QCOMPARE(read(state, tank), QByteArray(R"(["value 1","value 2"])"));
         QCOMPARE(valueAt(state, { QStringLiteral("sealClosed") }), QVariant(true));
+    }
+
+    void leavesFilesThatItDidNotMake()
+    {
+        const QTemporaryDir directory;
+        files.setScript("");
+        for (const char *name : { "state.json", "DBusController" }) {
+            const QString path = directory.filePath(QLatin1String(name));
+            QVERIFY(QFile::copy(files.paths().settingsScript, path));
+            QVERIFY(makeSimulatedDevice(
+                directory.path(), QStringLiteral(PREVIEW), files.paths(), {}, {})
+                        .contains(path));
+            QVERIFY(QFileInfo(path).isFile() && QFileInfo(path).size() == 0);
+            QFile::remove(path);
+        }
     }
 
     void exampleToolAnswersEveryCall()
