@@ -15,6 +15,7 @@ namespace {
 
 constexpr int maximumOutput = 16 * 1024 * 1024;
 constexpr int sliceMs = 50; // how soon a wait notices that the session is ending
+constexpr int deathMs = 1000; // how long a killed tool may take to end
 
 std::atomic<bool> abandoned(false);
 std::atomic<pid_t> runningTool(0);
@@ -33,6 +34,17 @@ std::unique_ptr<ToolProcess> start(const QString &program, const QStringList &ar
     return tool;
 }
 
+// True when the tool will end. It may have left its group, which then exists without it; a tool
+// that runs as another user cannot be killed.
+bool killTool(pid_t tool) noexcept
+{
+    // kill(0) would signal our own group, kill(-1) every process.
+    if (tool <= 1)
+        return false;
+    kill(-tool, SIGKILL);
+    return kill(tool, SIGKILL) == 0;
+}
+
 } // namespace
 
 QByteArray BackendTool::run(const QString &program, const QStringList &arguments, int timeoutMs)
@@ -47,8 +59,11 @@ QByteArray BackendTool::run(const QString &program, const QStringList &arguments
         tool->wait(int(qMin<qint64>(sliceMs, deadline.remainingTime())));
         tool->takeOutput(output);
     }
-    if (tool->isRunning())
-        killRunning();
+    if (tool->isRunning() && killTool(tool->pid())) {
+        const QDeadlineTimer death(deathMs);
+        while (tool->isRunning() && !death.hasExpired())
+            tool->waitForEnd(int(death.remainingTime()));
+    }
     runningTool = 0;
     while (output.size() <= maximumOutput && tool->takeOutput(output)) { }
     return abandoned || output.size() > maximumOutput ? QByteArray() : output;
@@ -61,10 +76,7 @@ void BackendTool::abandon() noexcept
 
 void BackendTool::killRunning() noexcept
 {
-    const pid_t tool = runningTool;
-    // kill(0) would signal our own group, kill(-1) every process.
-    if (tool > 1 && kill(-tool, SIGKILL) != 0)
-        kill(tool, SIGKILL);
+    killTool(runningTool);
 }
 
 void BackendTool::setSignalMask(const sigset_t &mask)

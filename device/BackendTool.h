@@ -14,8 +14,9 @@ constexpr int patienceMs = 30000;
 
 /// Runs `program` with `arguments`, one argv entry each and no shell, and returns its standard
 /// output; nothing when it cannot be started. A tool that still runs after `timeoutMs` is killed
-/// with its process group, and its output until then is returned. More than 16 MiB of output count
-/// as none, and so does the output of a tool that `abandon` cut off.
+/// with its process group, and its output until then is returned; one that cannot be killed,
+/// because it runs as another user, is left alone and reaped later. More than 16 MiB of output
+/// count as none, and so does the output of a tool that `abandon` cut off.
 QByteArray run(const QString &program, const QStringList &arguments, int timeoutMs = patienceMs);
 
 /// From now on no tool is started, and a running one is killed at once. Async-signal-safe.

@@ -3,8 +3,8 @@
 #include <QFile>
 #include <QVector>
 
+#include <algorithm>
 #include <array>
-#include <cerrno>
 
 #include <fcntl.h>
 #include <poll.h>
@@ -14,6 +14,15 @@
 #include <unistd.h>
 
 namespace {
+
+// Programs that ran longer than their ToolProcess lived.
+QVector<pid_t> unreaped;
+
+void reapOthers()
+{
+    const auto isReaped = [](pid_t pid) { return waitpid(pid, nullptr, WNOHANG) != 0; };
+    unreaped.erase(std::remove_if(unreaped.begin(), unreaped.end(), isReaped), unreaped.end());
+}
 
 void closeEnd(int &descriptor)
 {
@@ -92,6 +101,7 @@ pid_t start(const QString &program, const QStringList &arguments, const Surround
 ToolProcess::ToolProcess(
     const QString &program, const QStringList &arguments, const sigset_t &signalMask)
 {
+    reapOthers();
     Pipe input;
     Pipe output;
     if (input.readEnd >= 0 && output.readEnd >= 0)
@@ -111,12 +121,23 @@ ToolProcess::~ToolProcess()
     closeEnd(inputEnd);
     closeEnd(outputEnd);
     closeEnd(pidfd);
-    while (child > 0 && waitpid(child, nullptr, 0) < 0 && errno == EINTR) { }
+    if (child > 0 && waitpid(child, nullptr, WNOHANG) == 0)
+        unreaped += child;
 }
 
 void ToolProcess::wait(int timeoutMs)
 {
-    std::array<pollfd, 2> events = { { { outputEnd, POLLIN, 0 }, { pidfd, POLLIN, 0 } } };
+    waitFor(outputEnd, timeoutMs);
+}
+
+void ToolProcess::waitForEnd(int timeoutMs)
+{
+    waitFor(-1, timeoutMs);
+}
+
+void ToolProcess::waitFor(int output, int timeoutMs)
+{
+    std::array<pollfd, 2> events = { { { output, POLLIN, 0 }, { pidfd, POLLIN, 0 } } };
     // Linux before 5.3 has no pidfd: look again every millisecond.
     poll(events.data(), events.size(), pidfd >= 0 ? timeoutMs : qMin(timeoutMs, 1));
     // With SIGCHLD ignored an ended child is reaped at once, and waitid fails.

@@ -15,7 +15,7 @@ public:
     /// `arguments`. The console's memory is not copied, however large it is.
     ToolProcess(const QString &program, const QStringList &arguments, const sigset_t &signalMask);
 
-    /// Reaps the program; blocks until it ends, so kill a running one first.
+    /// Reaps the program, or leaves one that still runs to be reaped when another one is started.
     ~ToolProcess();
 
     ToolProcess(const ToolProcess &) = delete;
@@ -31,10 +31,15 @@ public:
     /// Waits until there is output, the program ends, a signal comes or `timeoutMs` is over.
     void wait(int timeoutMs);
 
+    /// Waits as `wait` does, but not for output.
+    void waitForEnd(int timeoutMs);
+
     /// Appends some of the program's output to `output`; false when there is none now.
     bool takeOutput(QByteArray &output);
 
 private:
+    void waitFor(int output, int timeoutMs);
+
     pid_t child = 0;
     bool running = false;
     int inputEnd = -1;

@@ -6,6 +6,10 @@
 
 #include <csignal>
 
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 static bool isAlive(pid_t process)
 {
     QFile file(QStringLiteral("/proc/%1/stat").arg(process));
@@ -132,18 +136,58 @@ private slots:
         QCOMPARE(calls(), QByteArray());
     }
 
+    void killsWhatHangs_data()
+    {
+        QTest::addColumn<QByteArray>("tool");
+        QTest::addColumn<bool>("hangs");
+        QTest::newRow("waits for its child") << QByteArray("sleep 60 & echo $$ $!; wait") << true;
+        QTest::newRow("leaves a child") << QByteArray("sleep 60 & echo $$ $!") << false;
+        QTest::newRow("leaves its group")
+            << QByteArray("sleep 60 & echo $$ $!\n"
+                          "exec perl -e 'setpgrp(0, getpgrp(getppid())); sleep 60'")
+            << true;
+    }
+
     void killsWhatHangs()
     {
-        for (const bool hangs : { true, false }) {
-            device.setTool(hangs ? "sleep 60 & echo $$ $!; wait" : "sleep 60 & echo $$ $!");
-            const auto pids =
-                BackendTool::run(device.paths().backendTool, {}, hangs ? 2000 : 30000).split(' ');
-            const pid_t tool = pids.value(0).toInt();
-            const pid_t child = pids.value(1).toInt();
-            QVERIFY(tool > 1 && child > 1 && kill(tool, 0) != 0);
-            QTRY_COMPARE(isAlive(child), !hangs);
-            kill(child, SIGKILL);
+        QFETCH(QByteArray, tool);
+        QFETCH(bool, hangs);
+        device.setTool(tool);
+        QElapsedTimer timer;
+        timer.start();
+        const auto pids =
+            BackendTool::run(device.paths().backendTool, {}, hangs ? 2000 : 30000).split(' ');
+        const pid_t parent = pids.value(0).toInt();
+        const pid_t child = pids.value(1).toInt();
+        QVERIFY(timer.elapsed() < 30000);
+        QVERIFY(parent > 1 && child > 1 && kill(parent, 0) != 0);
+        QTRY_COMPARE(isAlive(child), !hangs);
+        kill(child, SIGKILL);
+    }
+
+    void givesUpWhatCannotBeKilled()
+    {
+        if (geteuid() != 0)
+            QSKIP("only root can make a tool that runs as another user");
+        QTemporaryDir directory;
+        const QString tool = directory.filePath(QStringLiteral("setpriv"));
+        QVERIFY(QFile::copy(QStringLiteral("/usr/bin/setpriv"), tool));
+        QCOMPARE(chmod(QFile::encodeName(directory.path()).constData(), 0755), 0);
+        QCOMPARE(chmod(QFile::encodeName(tool).constData(), 04755), 0);
+        const pid_t console = fork();
+        if (console == 0) {
+            constexpr uid_t nobody = 65534;
+            const bool isOther = setuid(nobody) == 0;
+            const QByteArray answer = BackendTool::run(tool,
+                { QStringLiteral("--reuid=0"), QStringLiteral("sh"), QStringLiteral("-c"),
+                    QStringLiteral("echo $(id -ru); sleep 30") },
+                2000);
+            _exit(isOther && answer == "0\n" ? 0 : 1);
         }
+        int status = -1;
+        QTRY_VERIFY_WITH_TIMEOUT(
+            status >= 0 || waitpid(console, &status, WNOHANG) == console, 15000);
+        QCOMPARE(status, 0);
     }
 
     void takesWhatItCan()
