@@ -15,17 +15,6 @@ static const char translations[] = R"({"a": "A", "b": "B", "r": "R", "smile": "a
     "truck_setup_compartments": "N",
     "wide": "0123456789012345678901234567890123456789012345678901"})";
 
-// What the tool prints for the words of a call; nothing for others.
-static QByteArray commandsFor(const QVariantMap &answers)
-{
-    QByteArray commands = "case \"$*\" in\n";
-    for (auto answer = answers.cbegin(); answer != answers.cend(); ++answer) {
-        commands += '\'' + answer.key().toUtf8() + "') cat <<'END'\n"
-            + answer.value().toString().toUtf8() + "\nEND\n;;\n";
-    }
-    return commands + "esac";
-}
-
 static const char oneField[] = "[{css: 'r', screens: [{css: 'a'}]},"
                                "{css: 'a', 'ajax-read': 'r', screens: [{i18n: 'a'}]}]";
 
@@ -33,7 +22,7 @@ class MenuCheckTest : public QObject {
     Q_OBJECT
 
     FakeDevice device;
-    QByteArray faults;
+    QString helpers; ///< what the definitions of the table are written with
 
     QStringList problemsOf(const QByteArray &script)
     {
@@ -53,14 +42,14 @@ class MenuCheckTest : public QObject {
     }
 
     // Severity and name of each.
-    static QStringList namesOf(const QStringList &problems)
+    static QString namesOf(const QStringList &problems)
     {
         QStringList names;
         for (const QString &problem : problems) {
             names += problem.section(QLatin1Char(':'), 0, 0) + QLatin1Char(' ')
                 + problem.section(QLatin1Char('['), -1).chopped(1);
         }
-        return names;
+        return names.join(QLatin1String(", "));
     }
 
     QString root() const { return QStringLiteral("--web-root=") + device.paths().webRoot; }
@@ -88,47 +77,54 @@ private slots:
     {
         device.setTranslations(translations);
         CTranslationHandler::setInstanceRoot(device.paths().webRoot);
-        QFile file(QStringLiteral(FAULTS));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        faults = file.readAll();
     }
 
     void findsFaults_data()
     {
-        QTest::addColumn<int>("number");
         QTest::addColumn<QString>("problems");
         QTest::addColumn<QString>("says");
-        QTest::addColumn<QVariantMap>("answers");
-        QScriptEngine engine;
-        const QScriptValue rows =
-            engine.evaluate(QString::fromUtf8(faults) + QLatin1String(";rows"));
-        const int count = rows.property(QStringLiteral("length")).toInt32();
-        QVERIFY2(count > 0, qPrintable(rows.toString()));
-        for (int number = 0; number < count; ++number) {
-            const QVariantMap row = rows.property(quint32(number)).toVariant().toMap();
-            QTest::newRow(row[QStringLiteral("name")].toByteArray())
-                << number << row[QStringLiteral("problems")].toString()
-                << row[QStringLiteral("says")].toString() << row[QStringLiteral("answers")].toMap();
+        QTest::addColumn<QString>("screens");
+        QTest::addColumn<QString>("answers");
+        QFile file(QStringLiteral(FAULTS));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(file.readAll());
+        helpers = text.section(QStringLiteral("```"), 1, 1).mid(2); // without the fence's "js"
+        for (const QString &line : text.split(QLatin1Char('\n'))) {
+            const QStringList cells = line.split(QStringLiteral(" |"));
+            const auto cell = [&cells](int i) {
+                return cells.value(i).trimmed().remove(QLatin1Char('`'));
+            };
+            if (line.endsWith(QLatin1String("` |")))
+                QTest::newRow(cells[0].mid(2).toUtf8()) << cell(1) << cell(2) << cell(3) << cell(4);
         }
     }
     void findsFaults()
     {
-        QFETCH(int, number);
-        QFETCH(QString, problems);
         QFETCH(QString, says);
-        QFETCH(QVariantMap, answers);
-        device.setTool(commandsFor(answers));
-        const QByteArray script =
-            faults + "\nSettings.settings = rows[" + QByteArray::number(number) + "].screens;";
+        QFETCH(QString, screens);
+        QFETCH(QString, answers);
+        QScriptEngine engine;
+        QVariantMap texts = engine.evaluate(helpers + QStringLiteral("; texts(%1)").arg(answers))
+                                .toVariant()
+                                .toMap();
+        QByteArray commands = "case \"$*\" in\n";
+        for (auto text = texts.cbegin(); text != texts.cend(); ++text)
+            commands += '\'' + text.key().toUtf8() + "') cat <<'END'\n"
+                + text.value().toString().toUtf8() + "\nEND\n;;\n";
+        device.setTool(commands + "esac");
+        const QByteArray script = QString(helpers
+            + QStringLiteral("\nvar Settings = "
+                             "{ setupStructureVersion: 1, settings: %1 };")
+                  .arg(screens))
+                                      .toUtf8();
         const QStringList lines = answers.isEmpty() ? problemsOf(script) : deviceProblemsOf(script);
         const QString report = lines.join(QLatin1Char('\n'));
-        QCOMPARE(namesOf(lines).join(QLatin1String(", ")), problems);
+        QTEST(namesOf(lines), "problems");
         QVERIFY2(report.contains(says), qPrintable(report));
         // Each question is asked once, and nothing is written.
         QStringList calls = device.takeCalls();
         QCOMPARE(calls.removeDuplicates(), 0);
-        QCOMPARE(calls.filter(QStringLiteral("enable_if")) + calls.filter(QStringLiteral("[")),
-            QStringList());
+        QCOMPARE(calls.filter(QRegularExpression(QStringLiteral("enable_if|\\["))), QStringList());
         QCOMPARE(calls.isEmpty(), answers.isEmpty());
     }
 
@@ -137,16 +133,18 @@ private slots:
         QTest::addColumn<QByteArray>("commands");
         QTest::addColumn<int>("patienceMs");
         QTest::addColumn<QString>("problems");
-        QTest::newRow("crash") << QByteArray("kill -SEGV $$") << BackendTool::patienceMs
-                               << "warning no-tool-version, error no-array, error no-array";
-        QTest::newRow("hang")
-            << QByteArray("echo '[1]'; exec sleep 60") << 300
-            << "error hanging-call, error hanging-call, error seal-status, error hanging-call";
-        QTest::newRow("missing") << QByteArray() << BackendTool::patienceMs
-                                 << "error no-tool, error no-tool, error no-tool";
-        QTest::newRow("slow") << QByteArray("[ $1 = r ] && sleep 1.1; echo '[\"i18n_wm_true\"]'")
-                              << BackendTool::patienceMs
-                              << "warning slow-call, warning untranslated";
+        const auto row = [](const char *name, const char *commands, int patience,
+                             const char *problems) {
+            QTest::newRow(name) << QByteArray(commands) << patience
+                                << QString::fromLatin1(problems);
+        };
+        row("crash", "kill -SEGV $$", BackendTool::patienceMs,
+            "warning no-tool-version, error no-array, error no-array");
+        row("hang", "echo '[1]'; exec sleep 60", 300,
+            "error hanging-call, error hanging-call, error seal-status, error hanging-call");
+        row("missing", "", 0, "error no-tool, error no-tool, error no-tool");
+        row("slow", "[ $1 = r ] && sleep 1.1; echo '[\"i18n_wm_true\"]'", BackendTool::patienceMs,
+            "warning slow-call, warning untranslated");
     }
     void survivesTools()
     {
@@ -155,65 +153,53 @@ private slots:
         device.setTool(commands);
         if (commands.isEmpty())
             QFile::remove(device.paths().backendTool);
-        QTEST(namesOf(deviceProblemsOf("Settings = {setupStructureVersion: 1, settings: "
-                              + QByteArray(oneField) + "}",
-                          patienceMs))
-                  .join(QLatin1String(", ")),
+        QTEST(namesOf(deviceProblemsOf(
+                  "Settings = {setupStructureVersion: 1, settings: " + QByteArray(oneField) + "}",
+                  patienceMs)),
             "problems");
     }
 
-    void findsFaultsOfScripts_data()
+    void findsFaultsOfFiles_data()
     {
         QTest::addColumn<QByteArray>("script");
+        QTest::addColumn<QByteArray>("table");
         QTest::addColumn<QString>("report");
-        const auto row = [](const char *name, const QByteArray &script, const char *report) {
-            QTest::newRow(name) << script << QString::fromLatin1(report);
-        };
         const QByteArray good = "Settings = {settings: [{css: 'r'}], setupStructureVersion: 1}";
-        row("good", good, "");
-        row("no version", "Settings = {settings: [{css: 'r'}]}",
+        const auto script = [](const char *name, const QByteArray &text, const char *report) {
+            QTest::newRow(name) << text << QByteArray("{}") << QString::fromLatin1(report);
+        };
+        const auto table = [good](const char *name, const QByteArray &text, const char *report) {
+            QTest::newRow(name) << good << text << QString::fromLatin1(report);
+        };
+        script("good", good, "");
+        script("no version", "Settings = {settings: [{css: 'r'}]}",
             "has no \"setupStructureVersion\"");
-        row("no version, allowed", "Settings = {settings: [{css: 'r'}], checkIgnore: 'no-version'}",
-            "");
-        row("bracket missing", "Settings = {\nsettings: [", "line 2, column 11: Syntax error");
-        row("unknown name", good + ";\nnobody.calls()", "line 2: ReferenceError");
-        row("late throw", good + "; throw 'late'", "line 1: late");
-        row("no screens", "Settings = {}", "defines no screens");
+        script("no version, allowed",
+            "Settings = {settings: [{css: 'r'}], checkIgnore: 'no-version'}", "");
+        script("bracket missing", "Settings = {\nsettings: [", "line 2, column 11: Syntax error");
+        script("unknown name", good + ";\nnobody.calls()", "line 2: ReferenceError");
+        script("late throw", good + "; throw 'late'", "line 1: late");
+        script("no screens", "Settings = {}", "defines no screens");
+        table("stray comma", "{\"a\": \"A\",\n \"\xc3\xa4\": \"B\",}",
+            ": line 2, column 11: Missing a name");
+        table("byte order mark", "\xef\xbb\xbf{}", "byte order mark");
+        table("array", "[]", "is no JSON object");
+        table(
+            "too deep", QByteArray(600, '['), "column 513: A number is too large, or the nesting");
+        table("zero byte", QByteArray("{\0}", 3), "line 1, column 2: ");
     }
-    void findsFaultsOfScripts()
+    void findsFaultsOfFiles()
     {
         QFETCH(QByteArray, script);
-        QFETCH(QString, report);
-        const QStringList lines = problemsOf(script);
-        QCOMPARE(lines.size(), report.isEmpty() ? 0 : 1);
-        QVERIFY2(lines.join(QString()).contains(report), qPrintable(lines.join(QString())));
-    }
-
-    void explainsFiles_data()
-    {
-        QTest::addColumn<QByteArray>("table");
-        QTest::addColumn<QString>("fault");
-        const auto row = [](const char *name, const QByteArray &table, const char *fault) {
-            QTest::newRow(name) << table << QString::fromLatin1(fault);
-        };
-        row("good", R"({"a": "A"})", "");
-        row("stray comma", "{\"a\": \"A\",\n \"\xc3\xa4\": \"B\",}",
-            ": line 2, column 11: Missing a name");
-        row("byte order mark", "\xef\xbb\xbf{}", "byte order mark");
-        row("array", "[]", "is no JSON object");
-        row("too deep", QByteArray(600, '['), "column 513: A number is too large, or the nesting");
-        row("zero byte", QByteArray("{\0}", 3), "line 1, column 2: ");
-    }
-    void explainsFiles()
-    {
         QFETCH(QByteArray, table);
-        QFETCH(QString, fault);
-        device.setScript("");
+        QFETCH(QString, report);
+        QStringList lines = problemsOf(script);
         device.setTranslations(table);
-        const QString found = fileFault(device.paths());
+        lines += fileFault(device.paths());
+        lines.removeAll(QString());
+        QCOMPARE(lines.size(), report.isEmpty() ? 0 : 1);
+        QVERIFY2(lines.value(0).contains(report), qPrintable(lines.value(0)));
         device.setTranslations(translations);
-        QCOMPARE(found.isEmpty(), fault.isEmpty());
-        QVERIFY2(found.contains(fault), qPrintable(found));
     }
 
     void runsAsProgram()
