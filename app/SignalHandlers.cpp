@@ -24,7 +24,7 @@
 namespace {
 
 constexpr qint64 graceMs = 1000; // between the end of a session and its being cut off
-// A read or write that begins right after SIGINT does not notice it, so SIGALRM follows repeatedly.
+// A call that begins to block right after SIGINT does not notice it, so SIGALRM follows repeatedly.
 constexpr qint64 repeatMs = 50;
 
 std::atomic<TerminalGui *> terminalGui(nullptr);
@@ -70,8 +70,8 @@ void startTimer(qint64 ms) noexcept
     setitimer(ITIMER_REAL, &timer, nullptr);
 }
 
-// No SA_RESTART: a blocked read or write must return and notice the end of the session. A resize
-// draws, which no other handler waits for.
+// No SA_RESTART: a blocked read or write must return and notice the end of the session. SIGWINCH,
+// open while the reader waits, must not interrupt another handler with a redraw.
 bool setHandler(int number, void (*handler)(int))
 {
     struct sigaction action = {};
@@ -105,8 +105,8 @@ bool endsProcess(int number)
     }
 }
 
-// Writes `text` to the terminal unless the session has no terminal now: before its start, after its
-// end, or while a shell has taken the terminal back.
+// Restores the attributes and writes `text`, unless the terminal is not the session's: before its
+// start, after its end, or while a shell has taken the terminal back.
 template <size_t size> void leaveTerminal(const char (&text)[size]) noexcept
 {
     const pid_t foreground = tcgetpgrp(STDIN_FILENO);

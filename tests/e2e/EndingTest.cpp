@@ -42,6 +42,10 @@ class EndingTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void initTestCase()
+    {
+        qputenv("ASAN_OPTIONS", "handle_segv=0:handle_sigbus=0:handle_sigfpe=0:disable_coredump=1");
+    }
     void endOfSession_data();
     void endOfSession();
     void idleEnd();
@@ -120,7 +124,6 @@ void EndingTest::deathBySignal_data()
 void EndingTest::deathBySignal()
 {
     QFETCH(int, number);
-    qputenv("ASAN_OPTIONS", "handle_segv=0:handle_sigbus=0:handle_sigfpe=0:disable_coredump=1");
     Session session;
     // In an edit field the text cursor stands in colours.
     QVERIFY(session.start() && session.press(keysToEditField));
@@ -131,7 +134,6 @@ void EndingTest::deathBySignal()
     QCOMPARE(session.bytesSinceMark(), QByteArray("\x1b[?25h\x1b[0m"));
     QVERIFY(session.messages().endsWith(
         QStringLiteral("ended by signal %1.\n").arg(number, 2, 10, QLatin1Char('0'))));
-    qunsetenv("ASAN_OPTIONS");
 }
 
 void EndingTest::stackOverflow()
