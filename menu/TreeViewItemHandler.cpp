@@ -73,9 +73,9 @@ void TreeViewItemHandler::numberVisibleItems(
         if (!isVisible(item))
             return;
         items.push_back(&item);
+        if (!item.expanded)
+            return;
     }
-    if (!item.parentItem || item.expanded) {
-        for (const auto &child : item.children)
-            numberVisibleItems(*child, items);
-    }
+    for (const auto &child : item.children)
+        numberVisibleItems(*child, items);
 }

@@ -34,28 +34,24 @@ public:
     {
     }
 
-    void renderItemLines(const TreeViewItem &item, int depth, bool isFirstChild)
+    void renderItemLines(const TreeViewItem &item, int depth)
     {
-        const bool isRoot = !item.parentItem;
-        if (!isRoot) {
+        if (item.parentItem) {
             if (!handler.isVisible(item))
                 return;
-            lines.insert(lines.cend(), lines.size(), itemLine(item, depth, isFirstChild));
-            isFirstChild = true;
+            lines.insert(lines.cend(), lines.size(), itemLine(item, depth));
+            if (!item.expanded)
+                return;
         }
-        if (!isRoot && !item.expanded)
-            return;
-        for (const auto &child : item.children) {
-            renderItemLines(*child, depth + 1, isFirstChild);
-            isFirstChild = false;
-        }
+        for (const auto &child : item.children)
+            renderItemLines(*child, depth + 1);
     }
 
     Frame lines;
     QString note; ///< how the last list value was found
 
 private:
-    QString itemLine(const TreeViewItem &item, int depth, bool isFirstChild)
+    QString itemLine(const TreeViewItem &item, int depth)
     {
         const int labelColumn = depth * indentation;
         const QString text = label(item);
@@ -64,7 +60,7 @@ private:
         // All lines are kept: each allocates once, and no more than it needs.
         line.reserve(qMax(labelColumn + text.size(), value.isEmpty() ? 0 : valueColumn(termColumns))
             + value.size());
-        if (depth >= 2 && isFirstChild)
+        if (depth >= 2 && item.position == 0)
             insertText(line, labelColumn - 2 * indentation, QStringLiteral(" +"));
         insertText(line, qMax(labelColumn - indentation, 0), marker(item));
         insertText(line, labelColumn, text);
@@ -141,7 +137,7 @@ Frame menuLines(
     int depth = 0;
     for (const TreeViewItem *above = item.parentItem; above; above = above->parentItem)
         ++depth;
-    renderer.renderItemLines(item, depth, false);
+    renderer.renderItemLines(item, depth);
     if (note && !renderer.note.isEmpty())
         *note = renderer.note;
     return renderer.lines;
