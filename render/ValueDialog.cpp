@@ -143,7 +143,12 @@ std::optional<QVariant> chosenValue(
         if (validateInput(handler, item, state.editBuffer))
             return state.editBuffer;
         break;
-    default:
+    case SeparatorInput:
+    case ButtonInput:
+    case LabelInput:
+    case SelectLabelInput:
+    case PlainInput:
+    case NoInput:
         break;
     }
     return std::nullopt;
