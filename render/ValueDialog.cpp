@@ -10,20 +10,11 @@
 
 namespace {
 
-// A box around lines of `contentLength` characters: half the terminal wide, more where needed.
-int widthFor(const ViewState &state, qint64 contentLength)
+// The width of a box around `contentLength` characters: half the terminal, more where needed.
+int boxWidth(const ViewState &state, qint64 contentLength)
 {
     const qint64 columns = state.termColumns;
-    const qint64 needed = contentLength + 2;
-    if (columns / 2 >= needed)
-        return int(columns / 2);
-    return int(columns >= 2 * needed ? 2 * needed : qMin(needed, columns));
-}
-
-// A box whose content fits anywhere.
-int plainWidth(const ViewState &state)
-{
-    return qMax(state.termColumns / 2, qMin(state.termColumns, 2));
+    return int(qBound(columns / 2, contentLength + 2, columns));
 }
 
 Frame dialogBox(const ViewState &state, int width, const QString &title)
@@ -38,12 +29,9 @@ Frame dialogBox(const ViewState &state, int width, const QString &title)
 Frame rollingList(ViewState &state, int width, const QString &title, int chosen, int entryCount,
     const std::function<QString(int)> &entryAt)
 {
-    if (state.listIndex < 0) {
+    if (state.listIndex < 0)
         state.listIndex = chosen;
-        state.listMin = 0;
-    }
-    if (state.optionCount == 0)
-        state.optionCount = entryCount;
+    state.optionCount = entryCount;
 
     constexpr int middleLine = 3;
     Frame box = dialogBox(state, width, title);
@@ -61,7 +49,7 @@ Frame listSelector(ViewState &state, const TreeViewItemHandler &handler, const T
     const int current = handler.hasDatabaseValues(item)
         ? handler.indexOfDatabaseValue(item, item.value)
         : integerOf(item.value);
-    return rollingList(state, widthFor(state, handler.widestValue(item)),
+    return rollingList(state, boxWidth(state, handler.widestValue(item)),
         QStringLiteral("Select new Value"), current, handler.valueCount(item),
         [&handler, &item](int i) {
             const QString key = textOf(handler.valueAt(item, i));
@@ -72,7 +60,7 @@ Frame listSelector(ViewState &state, const TreeViewItemHandler &handler, const T
 Frame booleanSelector(ViewState &state, const TreeViewItem &item)
 {
     static const QStringList entries { QStringLiteral("false"), QStringLiteral("true") };
-    return rollingList(state, plainWidth(state), QStringLiteral("Select new Value"),
+    return rollingList(state, boxWidth(state, 0), QStringLiteral("Select new Value"),
         truthOf(item.value) ? 1 : 0, entries.size(), [](int i) { return entries.value(i); });
 }
 
@@ -95,7 +83,7 @@ Frame sliderDialog(ViewState &state, const TreeViewItemHandler &handler, const T
     if (state.dialogValue < state.rangeMin)
         state.dialogValue = integerOf(item.value);
 
-    const int width = plainWidth(state);
+    const int width = boxWidth(state, 0);
     QString bar(qMax(width - 2, 0), QLatin1Char('-'));
     const int mark = sliderMark(state, bar.size());
     if (mark <= bar.size())
@@ -110,7 +98,6 @@ Frame sliderDialog(ViewState &state, const TreeViewItemHandler &handler, const T
 // Unlike `fieldLength`, which places the cursor, the typing limit does not depend on a range.
 Frame editDialog(ViewState &state, const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
-    state.rangeMin = 0;
     if (state.dialogValue < 0) {
         state.editBuffer = textOf(item.value);
         state.dialogValue = state.editBuffer.size();
@@ -118,7 +105,7 @@ Frame editDialog(ViewState &state, const TreeViewItemHandler &handler, const Tre
     if (state.rangeLimit == 0)
         state.rangeLimit = saturated<int>(inputRule(handler, item).length.value_or(0));
 
-    const int width = widthFor(state, state.rangeLimit);
+    const int width = boxWidth(state, state.rangeLimit);
     Frame box = dialogBox(
         state, width, QStringLiteral("Enter new Value ") + QString::number(state.rangeLimit));
     placeCentred(box, width, 3, printable(state.editBuffer), state.rangeLimit);
@@ -169,7 +156,7 @@ int horizontalIndex(const ViewState &state, const TreeViewItemHandler &handler, 
     const int textLength = state.editBuffer.size();
     if (item && handler.inputKind(*item) == EditInput && index >= textLength)
         return index > state.rangeLimit ? state.rangeLimit : textLength;
-    return saturated<int>(qMin<qint64>(index, state.rangeLimit));
+    return int(qMin<qint64>(index, state.rangeLimit));
 }
 
 } // namespace
@@ -178,7 +165,7 @@ Frame startMenu(ViewState &state)
 {
     static const QStringList entries { QStringLiteral("start Dravikon Menu"),
         QStringLiteral("continue to local shell") };
-    return rollingList(state, widthFor(state, entries.first().size()),
+    return rollingList(state, boxWidth(state, entries.first().size()),
         QStringLiteral("Select next Step"), 0, entries.size(),
         [](int i) { return entries.value(i); });
 }
