@@ -5,6 +5,19 @@
 
 #include <Version.h>
 
+namespace {
+
+// A version without the line breaks that it ends with.
+QString versionText(const QString &version)
+{
+    QString text = version;
+    while (text.endsWith(QLatin1Char('\n')) || text.endsWith(QLatin1Char('\r')))
+        text.chop(1);
+    return printable(text);
+}
+
+} // namespace
+
 QString headerBar()
 {
     return Escape::redBackground + QStringLiteral("Quenstadel") + Escape::eraseToEndOfLine
@@ -14,7 +27,7 @@ QString headerBar()
 QString titleBar(const QString &setupVersion, const QString &backendVersion)
 {
     return Escape::blueBackground + QStringLiteral("Dravikon ver: ") + consoleVersion
-        + QStringLiteral("|Setup ver: ") + printable(withoutLastLineBreaks(setupVersion))
-        + QStringLiteral("|DBC ver: ") + printable(withoutLastLineBreaks(backendVersion))
-        + QStringLiteral("| exit: Key (Q)") + Escape::eraseToEndOfLine + Escape::reset;
+        + QStringLiteral("|Setup ver: ") + versionText(setupVersion) + QStringLiteral("|DBC ver: ")
+        + versionText(backendVersion) + QStringLiteral("| exit: Key (Q)") + Escape::eraseToEndOfLine
+        + Escape::reset;
 }

@@ -20,12 +20,3 @@ QString printable(const QString &text)
     std::replace_if(shown.begin(), shown.end(), isControl, QLatin1Char(' '));
     return shown;
 }
-
-QString withoutLastLineBreaks(const QString &text)
-{
-    int length = text.size();
-    while (length > 0
-        && (text.at(length - 1) == QLatin1Char('\n') || text.at(length - 1) == QLatin1Char('\r')))
-        --length;
-    return text.left(length);
-}

@@ -6,6 +6,3 @@
 /// `text` with a blank in place of every control character, so that nothing foreign can move the
 /// cursor or switch the terminal.
 QString printable(const QString &text);
-
-/// `text` up to the line breaks it ends with.
-QString withoutLastLineBreaks(const QString &text);

@@ -12,17 +12,18 @@ bool isSignOrDigit(QChar character)
         || (character >= QLatin1Char('0') && character <= QLatin1Char('9'));
 }
 
-} // namespace
-
+// The integer that `text` consists of; nothing for any other text and beyond 64 bits.
 std::optional<qint64> strictInteger(const QString &text)
 {
     bool isInteger = false;
     const qint64 number = text.toLongLong(&isInteger);
-    // The conversion allows for blanks around the number.
+    // The conversion also takes blanks around the number and U+2212 as its minus sign.
     if (!isInteger || !std::all_of(text.cbegin(), text.cend(), isSignOrDigit))
         return std::nullopt;
     return number;
 }
+
+} // namespace
 
 bool hasValidation(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {

@@ -5,10 +5,6 @@
 
 #include <optional>
 
-/// The integer that the whole of `text` stands for: a sign or none, then digits. Nothing for any
-/// other text and for numbers beyond 64 bits.
-std::optional<qint64> strictInteger(const QString &text);
-
 bool hasValidation(const TreeViewItemHandler &handler, const TreeViewItem &item);
 
 /// The rule of the item, such as "C20" or "N5".
