@@ -64,11 +64,11 @@ template <typename Draw> void drawDiagnose(benchmark::State &state, Draw draw)
 }
 BENCHMARK_CAPTURE(drawDiagnose, spd, [](Frame &frame) {
     static const QVariantList answer { QVariant(versionsAnd({ numbers(20) })) };
-    drawPagedScreen(frame, spdLayout, 0, 4, answer);
+    drawPagedScreen(frame, spdLayout, 0, answer);
 });
 BENCHMARK_CAPTURE(drawDiagnose, io, [](Frame &frame) {
     static const QVariantList answer { QVariant(versionsAnd({ numbers(2), numbers(8) })) };
-    drawPagedScreen(frame, ioLayout, 0, 4, answer);
+    drawPagedScreen(frame, ioLayout, 0, answer);
 });
 BENCHMARK_CAPTURE(drawDiagnose, tag, [](Frame &frame) {
     static const QVariantList tag = numbers(9).toList();

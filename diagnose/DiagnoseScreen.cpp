@@ -2,17 +2,18 @@
 
 #include "diagnose/AsScreen.h"
 #include "diagnose/PagedScreen.h"
+#include "diagnose/ScreenLines.h"
 #include "diagnose/TagScreen.h"
 
 namespace {
 
 void drawPages(Frame &frame, const PageLayout &layout, ViewState &state, const QVariantList &answer)
 {
-    if (state.optionCount == 0 && state.listIndex < 0) {
+    if (state.listIndex < 0) {
         state.listIndex = 0;
         state.optionCount = interfaceCount;
     }
-    drawPagedScreen(frame, layout, state.listIndex, state.optionCount, answer);
+    drawPagedScreen(frame, layout, state.listIndex, answer);
 }
 
 } // namespace
@@ -41,7 +42,7 @@ Frame diagnoseScreen(ViewState &state, TreeViewItemHandler &handler, const TreeV
         drawAsScreen(frame, answer, state.statusText);
         break;
     case LevelInterface:
-        placeCentred(frame, frame.value(0).size(), 1, QStringLiteral("Not Implemented yet.."), 0);
+        placeMessage(frame, 1, QStringLiteral("Not Implemented yet.."));
         break;
     case NoInterface:
         break;

@@ -24,11 +24,13 @@ void drawChannels(
 
 } // namespace
 
-void drawPagedScreen(
-    Frame &frame, const PageLayout &layout, int shown, int count, const QVariantList &answer)
+void drawPagedScreen(Frame &frame, const PageLayout &layout, int shown, const QVariantList &answer)
 {
     placeLeft(frame, 1,
-        QStringLiteral("%1%2/%3").arg(QLatin1String(layout.label)).arg(shown + 1).arg(count));
+        QStringLiteral("%1%2/%3")
+            .arg(QLatin1String(layout.label))
+            .arg(shown + 1)
+            .arg(interfaceCount));
     if (shown >= answer.size())
         return placeNotAvailable(frame);
     const QVariantList interface = answer.at(shown).toList();

@@ -35,7 +35,6 @@ constexpr PageLayout wetlegLayout = { "Wetleg IF: ", 6, 0, true,
 /// The interfaces of each kind.
 constexpr int interfaceCount = 4;
 
-/// Draws interface number `shown` (from 0) of `count` into the box `frame`: `answer` has one
-/// element for each interface, and that is a list of its versions and its lists of channel values.
-void drawPagedScreen(
-    Frame &frame, const PageLayout &layout, int shown, int count, const QVariantList &answer);
+/// Draws interface number `shown`, from 0, into the box `frame`: `answer` has one element for each
+/// interface, and that is a list of its versions and its lists of channel values.
+void drawPagedScreen(Frame &frame, const PageLayout &layout, int shown, const QVariantList &answer);
