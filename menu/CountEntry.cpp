@@ -8,7 +8,7 @@ int placeOf(const CountEntry &entry, const QScriptValue &screen, const PropertyN
     for (int place = 0; candidate.hasNext(); ++place) {
         candidate.next();
         const QScriptValue key = candidate.value().property(names.i18n);
-        if (key.isValid() && key.toString() == QLatin1String(entry.field))
+        if (key.toString() == QLatin1String(entry.field))
             return place;
     }
     return -1;

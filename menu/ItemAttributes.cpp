@@ -16,8 +16,6 @@ constexpr int maximumValues = 100000;
 template <size_t count>
 size_t placeOf(const QScriptValue &value, const std::array<const char *, count> &words)
 {
-    if (!value.isValid())
-        return count;
     const QString text = value.toString();
     size_t place = 0;
     while (place < count && text != QLatin1String(words[place]))
@@ -100,13 +98,8 @@ InterfaceKind TreeViewItemHandler::diagnoseScreen(const TreeViewItem &item) cons
 
 bool TreeViewItemHandler::isEditable(const TreeViewItem &item) const
 {
-    if (!item.children.empty())
-        return false;
-    const QScriptValue remote = item.definition.property(propertyNames.remote);
-    if (remote.isValid() && remote.toNumber() == 2)
-        return false;
-    const QScriptValue needed = item.definition.property(propertyNames.accessLevel);
-    if (needed.isValid() && needed.toNumber() > currentAccessLevel)
+    if (!item.children.empty() || item.definition.property(propertyNames.remote).toNumber() == 2
+        || item.definition.property(propertyNames.accessLevel).toNumber() > currentAccessLevel)
         return false;
     const InputKind kind = inputKind(item);
     return kind == DropdownInput || kind == EditInput || kind == BooleanInput
@@ -124,7 +117,7 @@ bool TreeViewItemHandler::isVisible(const TreeViewItem &item) const
         || (item.definition.property(propertyNames.type).isValid()
             && !isCompartmentButton(item.referringEntry, propertyNames)
             && !isMeterButton(item.referringEntry, propertyNames));
-    if (needsRemote && (!decisive.isValid() || decisive.toNumber() == 0))
+    if (needsRemote && decisive.toNumber() == 0)
         return false;
     return !isExcluded(item);
 }
@@ -134,8 +127,6 @@ bool TreeViewItemHandler::isExcluded(const TreeViewItem &item) const
     QScriptValue css = item.definition.property(propertyNames.css);
     if (!css.isValid())
         css = item.referringEntry.property(propertyNames.css);
-    if (!css.isValid())
-        return false;
     const QString name = css.toString();
     return name.contains(QLatin1String("TODO")) || name == QLatin1String("btnLoadingplan")
         || name == QLatin1String("btnServiceLoadingplan");
