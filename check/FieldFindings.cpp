@@ -90,7 +90,7 @@ bool hasKnownType(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
     const PropertyNames &names = handler.names();
     return !item.definition.property(names.type).isValid() || handler.typeKind(item) != NoType
-        || isCompartmentButton(item.definition, names) || isMeterButton(item.definition, names);
+        || isCompartmentOrMeterButton(item.definition, names);
 }
 
 } // namespace

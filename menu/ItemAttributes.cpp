@@ -115,8 +115,7 @@ bool TreeViewItemHandler::isVisible(const TreeViewItem &item) const
         remote.isValid() ? remote : item.referringEntry.property(propertyNames.remote);
     const bool needsRemote = remote.isValid()
         || (item.definition.property(propertyNames.type).isValid()
-            && !isCompartmentButton(item.referringEntry, propertyNames)
-            && !isMeterButton(item.referringEntry, propertyNames));
+            && !isCompartmentOrMeterButton(item.referringEntry, propertyNames));
     if (needsRemote && decisive.toNumber() == 0)
         return false;
     return !isExcluded(item);

@@ -5,9 +5,9 @@
 
 #include <QScriptValue>
 
-bool isCompartmentButton(const QScriptValue &definition, const PropertyNames &names);
-
 bool isMeterButton(const QScriptValue &definition, const PropertyNames &names);
+
+bool isCompartmentOrMeterButton(const QScriptValue &definition, const PropertyNames &names);
 
 /// True for a compartment or meter button without entries of its own.
 bool isRepeatedScreen(const QScriptValue &definition, const PropertyNames &names);

@@ -87,8 +87,7 @@ private:
     QString label(const TreeViewItem &item) const
     {
         QString text = printable(translate(handler.labelKey(item)));
-        if (isCompartmentButton(item.referringEntry, handler.names())
-            || isMeterButton(item.referringEntry, handler.names()))
+        if (isCompartmentOrMeterButton(item.referringEntry, handler.names()))
             text += QLatin1Char(' ') + QString::number(item.position + 1);
         return text;
     }
