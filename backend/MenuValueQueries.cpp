@@ -90,22 +90,19 @@ bool TreeViewItemHandler::enableInterface(InterfaceKind kind, bool enabled)
 
 bool TreeViewItemHandler::toggleItem(TreeViewItem &node, const TreeViewItem *target, bool force)
 {
-    bool closing = force;
-    if (!force && &node == target) {
-        closing = node.expanded;
-        if (!closing) {
-            node.expanded = true;
-            if (readValues(node))
-                itemJustRead = &node;
-            return true;
-        }
-    }
-    if (closing)
+    const bool closing = force || (&node == target && node.expanded);
+    if (closing) {
         node.expanded = false;
+    } else if (&node == target) {
+        node.expanded = true;
+        if (readValues(node))
+            itemJustRead = &node;
+        return true;
+    } else if (!node.expanded && node.parentItem) {
+        return false;
+    }
     for (const auto &child : node.children) {
-        if (!node.expanded && node.parentItem && !closing)
-            return false;
-        if (toggleItem(*child, target, closing) && !closing)
+        if (toggleItem(*child, target, closing))
             return true;
     }
     return false;
