@@ -1,5 +1,6 @@
 #include "locale/CTranslationHandler.h"
 
+#include "device/DevicePaths.h"
 #include "json/JsonReader.h"
 #include "json/Values.h"
 
@@ -38,9 +39,7 @@ bool CTranslationHandler::loadJsonMap(const QString &path, QVariantMap &target)
     if (!file.open(QIODevice::ReadOnly))
         return false;
     QByteArray json = file.readAll();
-    const int end = json.indexOf('\0');
-    if (end >= 0)
-        json.truncate(end);
+    json.truncate(int(qstrlen(json.constData()))); // a NUL byte ends the text
     const QVariant value = parseJson(json).value_or(QVariant());
     if (value.type() != QVariant::Map)
         return false;
@@ -71,8 +70,8 @@ bool CTranslationHandler::loadTranslationMap(const QString &language)
 
 QVariantMap CTranslationHandler::translationMap(const QString &language)
 {
-    if (!translationMaps.contains(language) && !loadTranslationMap(language))
-        return {};
+    if (!translationMaps.contains(language))
+        loadTranslationMap(language);
     return translationMaps.value(language);
 }
 
@@ -84,8 +83,8 @@ bool CTranslationHandler::loadDatabaseToGuiMap()
 
 QVariantMap CTranslationHandler::databaseToGuiMap()
 {
-    if (databaseToGui.isEmpty() && !loadDatabaseToGuiMap())
-        return {};
+    if (databaseToGui.isEmpty())
+        loadDatabaseToGuiMap();
     return databaseToGui;
 }
 

@@ -1,8 +1,6 @@
 // The web interface's translation tables.
 #pragma once
 
-#include "device/DevicePaths.h"
-
 #include <QMap>
 #include <QString>
 #include <QVariantMap>
@@ -12,7 +10,7 @@
 /// next request.
 class CTranslationHandler {
 public:
-    explicit CTranslationHandler(const QString &guiRoot = DevicePaths().webRoot);
+    explicit CTranslationHandler(const QString &guiRoot);
 
     /// The instance that `translate` uses; made at the first call, never destroyed.
     static CTranslationHandler &instance();
