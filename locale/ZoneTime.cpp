@@ -11,25 +11,22 @@ public:
     explicit ZoneSwitch(const QString &zone)
     {
         tzset();
-        const char *const value = getenv("TZ");
-        wasSet = value != nullptr;
-        saved = value;
+        saved = getenv("TZ");
         setenv("TZ", zone.toLocal8Bit().constData(), 1);
         tzset();
     }
     ~ZoneSwitch()
     {
-        if (wasSet)
-            setenv("TZ", saved.constData(), 1);
-        else
+        if (saved.isNull())
             unsetenv("TZ");
+        else
+            setenv("TZ", saved.constData(), 1);
         tzset();
     }
     Q_DISABLE_COPY(ZoneSwitch)
 
 private:
-    bool wasSet;
-    QByteArray saved;
+    QByteArray saved; ///< null when "TZ" was not set
 };
 
 tm fieldsOf(const QDateTime &dateTime)
