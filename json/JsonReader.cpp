@@ -45,19 +45,9 @@ public:
         return true;
     }
     bool StartObject() { return enter(true); }
-    bool EndObject(rapidjson::SizeType)
-    {
-        const QVariantMap map = open.back().map;
-        open.pop_back();
-        return add(map);
-    }
+    bool EndObject(rapidjson::SizeType) { return leave(); }
     bool StartArray() { return enter(false); }
-    bool EndArray(rapidjson::SizeType)
-    {
-        const QVariantList list = open.back().list;
-        open.pop_back();
-        return add(list);
-    }
+    bool EndArray(rapidjson::SizeType) { return leave(); }
 
 private:
     struct Container {
@@ -73,6 +63,13 @@ private:
             return false;
         open.push_back({ isMap, {}, {}, {} });
         return true;
+    }
+
+    bool leave()
+    {
+        const Container done = std::move(open.back());
+        open.pop_back();
+        return done.isMap ? add(done.map) : add(done.list);
     }
 
     bool add(const QVariant &element)
