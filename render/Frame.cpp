@@ -88,8 +88,6 @@ void placeCentred(Frame &frame, int width, int line, const QString &text, int ma
 {
     if (text.isEmpty())
         return;
-    int length = text.size();
-    if (maxLength != 0)
-        length = maxLength < width - 1 ? maxLength : width - 2;
+    const int length = maxLength == 0 ? text.size() : qMin(maxLength, width - 2);
     replaceText(frame[line], width / 2 - qMax(length, 0) / 2, text.size(), text);
 }
