@@ -1,7 +1,7 @@
 #include "check/Findings.h"
 
-#include "menu/RepeatedScreen.h"
 #include "json/Values.h"
+#include "menu/RepeatedScreen.h"
 
 namespace {
 

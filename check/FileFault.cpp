@@ -1,7 +1,7 @@
 #include "check/FileFault.h"
 
-#include "locale/CTranslationHandler.h"
 #include "json/JsonReader.h"
+#include "locale/CTranslationHandler.h"
 
 #include <QFile>
 

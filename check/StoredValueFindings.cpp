@@ -1,7 +1,7 @@
 #include "check/DeviceFindings.h"
+#include "json/Values.h"
 #include "render/InputValidation.h"
 #include "render/MenuView.h"
-#include "json/Values.h"
 
 #include <cmath>
 

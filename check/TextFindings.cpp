@@ -1,10 +1,10 @@
 #include "check/Findings.h"
 
+#include "json/Values.h"
 #include "locale/CTranslationHandler.h"
 #include "render/ForeignText.h"
 #include "render/MenuView.h"
 #include "render/ViewState.h"
-#include "json/Values.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "diagnose/ScreenLines.h"
 
-#include "render/ForeignText.h"
 #include "json/Values.h"
+#include "render/ForeignText.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // The attribute queries: what an item's definition says about it.
 #include "menu/TreeViewItemHandler.h"
 
-#include "menu/RepeatedScreen.h"
 #include "json/Saturated.h"
 #include "json/Values.h"
+#include "menu/RepeatedScreen.h"
 
 #include <cmath>
 

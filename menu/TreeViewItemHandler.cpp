@@ -1,9 +1,9 @@
 #include "menu/TreeViewItemHandler.h"
 
+#include "json/Values.h"
 #include "menu/CountEntry.h"
 #include "menu/ScreenIndex.h"
 #include "menu/TreeBuilder.h"
-#include "json/Values.h"
 
 #include <QDebug>
 

@@ -1,12 +1,12 @@
 #include "preview/DeviceFromMenu.h"
 
 #include "check/LoadedMenu.h"
+#include "json/JsonReader.h"
 #include "menu/CountEntry.h"
 #include "menu/TreeBuilder.h"
 #include "preview/DeviceState.h"
 #include "preview/SampleInterfaces.h"
 #include "render/InputValidation.h"
-#include "json/JsonReader.h"
 
 namespace {
 

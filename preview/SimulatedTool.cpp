@@ -1,9 +1,9 @@
 #include "preview/SimulatedTool.h"
 
+#include "json/JsonReader.h"
 #include "preview/DeviceState.h"
 #include "preview/FieldInterfaces.h"
 #include "preview/MenuValues.h"
-#include "json/JsonReader.h"
 
 #include <QFile>
 #include <QStringList>

@@ -1,9 +1,9 @@
 #include "render/MenuView.h"
 
+#include "json/Values.h"
 #include "locale/CTranslationHandler.h"
 #include "menu/RepeatedScreen.h"
 #include "render/ForeignText.h"
-#include "json/Values.h"
 
 namespace {
 

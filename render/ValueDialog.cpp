@@ -1,10 +1,10 @@
 #include "render/ValueDialog.h"
 
+#include "json/Saturated.h"
+#include "json/Values.h"
 #include "locale/CTranslationHandler.h"
 #include "render/ForeignText.h"
 #include "render/InputValidation.h"
-#include "json/Saturated.h"
-#include "json/Values.h"
 
 #include <functional>
 

@@ -1,8 +1,8 @@
 #include "tests/e2e/TranscriptPlayer.h"
 
+#include "json/JsonReader.h"
 #include "terminal/KeyText.h"
 #include "tests/support/ScreenNotation.h"
-#include "json/JsonReader.h"
 
 #include <QFile>
 #include <QRegularExpression>

@@ -1,10 +1,10 @@
+#include "json/JsonReader.h"
 #include "preview/DeviceState.h"
 #include "preview/MenuValues.h"
 #include "preview/SimulatedDevice.h"
 #include "render/ValueDialog.h"
 #include "tests/support/FakeDevice.h"
 #include "tests/support/RunProgram.h"
-#include "json/JsonReader.h"
 
 #include <QtTest>
 
