@@ -15,7 +15,9 @@ bool PtySession::press(const QByteArray &key)
 
 bool PtySession::waitForRest()
 {
-    return waitFor([this] { return isAtRest(); });
+    // Twice, because between two child processes it can sleep for a moment, too.
+    constexpr int pauseMs = 5;
+    return waitFor([this] { return isAtRest() && !takeOutput(pauseMs) && isAtRest(); });
 }
 
 void PtySession::resize(int rows, int columns)

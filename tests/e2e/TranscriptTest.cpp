@@ -24,7 +24,10 @@ bool playEntry(TranscriptPlayer &player, TranscriptEntry &entry, const QString &
         entry.expected = seen;
         return true;
     }
-    print(QStringLiteral("\n%1:%2: %3\nexpected:").arg(path).arg(entry.line).arg(error),
+    print(QStringLiteral("\n%1:%2: %3\nexpected:")
+              .arg(path)
+              .arg(entry.line)
+              .arg(error.isEmpty() ? QStringLiteral("something else came of it") : error),
         entry.expected);
     print(QStringLiteral("seen:"), QStringList(QStringLiteral("> ") + entry.text) + seen);
     print(QStringLiteral("the whole screen:"), player.screen());
