@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds Dravikon and runs all its tests. With --full it also checks the format of the sources, runs
-# the tests with sanitizers, the fuzz targets and the linters. Installs what is missing for that.
+# the tests with sanitizers, the fuzz target and the linters. Installs what is missing for that.
 set -euo pipefail
 cd "$(dirname "$0")"
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Plays random sessions and runs each fuzz target with ASan and UBSan, and ends sessions at the
+# Plays random sessions and runs the fuzz target with ASan and UBSan, and ends sessions at the
 # moment when they start a tool, hundreds of times for each way to end.
 # Usage: tests/soak.sh [SESSIONS [KEYS [RUNS [SEED]]]]
 set -euo pipefail
@@ -18,10 +18,7 @@ build/asan/tests/e2e/random-sessions "$sessions" "$keys" "$seed"
 cmake --preset dev --log-level=WARNING
 cmake --build --preset dev --target ending-test
 DRAVIKON_TEST_ENDINGS=$((2 * sessions)) build/dev/tests/e2e/ending-test toolIsStarting
-for corpus in tests/corpus/*; do
-    name=$(basename "$corpus")
-    findings=build/fuzz/tests/fuzz/$name-findings
-    echo "== $name-fuzz, seed $seed"
-    "build/fuzz/tests/fuzz/$name-fuzz" -seed="$seed" -runs="$runs" -print_final_stats=1 \
-        -artifact_prefix="$findings/" "$findings" "$corpus" 2>&1 | grep -E '^(stat:|==|SUMMARY|Done)'
-done
+findings=build/fuzz/tests/fuzz/codec-findings
+build/fuzz/tests/fuzz/codec-fuzz -seed="$seed" -runs="$runs" -print_final_stats=1 \
+    -artifact_prefix="$findings/" "$findings" tests/corpus/codec 2>&1 |
+    grep -E '^(stat:|==|SUMMARY|Done)'
