@@ -23,8 +23,6 @@ class BackendTest : public QObject {
     TreeViewItemHandler handler { device.paths() };
     const QString word = QStringLiteral("word");
 
-    QByteArray calls() { return device.takeCalls().join(QLatin1Char(' ')).toUtf8(); }
-
 private slots:
     void init() { device.takeCalls(); }
 
@@ -74,22 +72,14 @@ private slots:
         }
     }
 
-    void remembersTheLastRead()
+    void passesArgumentsAsTheyAre()
     {
-        ScriptHelper &script = handler.scriptHelper();
-        device.setTool("echo [1]");
-        script.read({ word }, true);
-        QStringList arguments { QStringLiteral("two  \"words") };
-        script.write(arguments, { true, QStringLiteral("ä") });
-        QCOMPARE(calls(), QByteArray("word two  \"words|[true,\"\\u00e4\"]"));
-        device.setTool("echo [2]");
-        QCOMPARE(script.read({ word }, false), QVariantList { 1 });
-        QCOMPARE(calls(), QByteArray());
-        QCOMPARE(script.read({ word, QString() }, false), QVariantList { 2 });
-        script.read({ word, QString() }, true);
-        QCOMPARE(calls(), QByteArray("word| word|"));
-        QVERIFY(!script.write(arguments, { qQNaN() }));
-        QCOMPARE(calls(), QByteArray());
+        QStringList arguments { QStringLiteral("two  \"words"), QString() };
+        handler.scriptHelper().write(arguments, { true, QStringLiteral("ä") });
+        QCOMPARE(device.takeCalls().join(QLatin1Char(' ')).toUtf8(),
+            QByteArray("two  \"words||[true,\"\\u00e4\"]"));
+        QVERIFY(!handler.scriptHelper().write(arguments, { qQNaN() }));
+        QCOMPARE(device.takeCalls(), QStringList());
     }
 
     void asksForTheSeal()
@@ -100,40 +90,6 @@ private slots:
             handler.updateAccessLevel();
             QCOMPARE(handler.accessLevel(), QByteArray(answer).contains("wm_false") ? 6 : 4);
         }
-    }
-
-    void opensReadsAndWrites()
-    {
-        const QScriptValue list = handler.scriptHelper().scriptEngine().evaluate(QStringLiteral(R"([
-            {'ajax-read': 'get  outer', 'ajax-write': 'set  outer'}, {inputType: 'label'},
-            {inputType: 'separator'}, {inputType: 'button'}, {'ajax-read': 'get inner'}])"));
-        TreeViewItem root({}, {}, nullptr, -1, 0);
-        TreeViewItem &outer = root.addChild(list.property(0), {}, -1);
-        for (const quint32 field : { 1, 2, 3 })
-            outer.addChild(list.property(field), {}, -1);
-        TreeViewItem &inner = outer.addChild(list.property(4), {}, 2);
-        inner.addChild({}, {}, -1);
-        device.setTool("echo '[1, \"b\", 3]'");
-
-        QVERIFY(!handler.toggleItem(root, &inner, false)); // it is below a closed one
-        QVERIFY(handler.toggleItem(root, &outer, false));
-        QVERIFY(handler.toggleItem(root, &inner, false));
-        QCOMPARE(calls(), QByteArray("get|outer get|inner|2"));
-        handler.refreshValues(root); // but for what was opened last
-        QCOMPARE(calls(), QByteArray("get_menu_electronic_seal_status get|outer"));
-        handler.refreshValues(root);
-        QCOMPARE(calls(), QByteArray("get_menu_electronic_seal_status get|outer get|inner|2"));
-
-        const QVariantList values { 1, QStringLiteral("b") };
-        QCOMPARE(handler.collectItemValues(outer), values);
-        handler.assignItemValues(outer, { 5 });
-        QVERIFY(handler.writeItemValues(inner));
-        QCOMPARE(calls(), QByteArray("set|outer|2|[5,\"b\"]"));
-        QVERIFY(!handler.writeItemValues(*inner.children[0])); // its group has no "ajax-write"
-
-        QVERIFY(!handler.toggleItem(root, &outer, false));
-        QVERIFY(!outer.expanded && !inner.expanded);
-        QCOMPARE(calls(), QByteArray());
     }
 
     void killsWhatHangs_data()
@@ -199,7 +155,7 @@ private slots:
         QCOMPARE(handler.scriptHelper().run({ QStringLiteral("5") }).size(), 5);
         signal(SIGCHLD, SIG_DFL);
         device.setScript("not executable");
-        for (const char *name : { "/settings.js", "/locales", "/none" })
+        for (const char *name : { "/scripts/settings.js", "/scripts", "/none" })
             QCOMPARE(
                 BackendTool::run(device.paths().webRoot + QLatin1String(name), {}), QByteArray());
     }

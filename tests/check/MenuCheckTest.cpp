@@ -24,21 +24,19 @@ class MenuCheckTest : public QObject {
     FakeDevice device;
     QString helpers; ///< what the definitions of the table are written with
 
-    QStringList problemsOf(const QByteArray &script)
+    QStringList problems()
     {
-        device.setScript(script);
         LoadedMenu menu(device.paths());
         return menuProblems(menu);
     }
 
-    QStringList deviceProblemsOf(const QByteArray &script, int patienceMs = BackendTool::patienceMs)
+    QStringList problemsOnDevice(int patienceMs = BackendTool::patienceMs)
     {
-        QStringList problems = problemsOf(script);
         ToolCalls calls(device.paths().backendTool, {}, patienceMs);
         LoadedMenu menu(device.paths(),
             [&calls](const QStringList &arguments) { return calls.run(arguments); });
         readDevice(menu, calls, DeviceExtent::Everything);
-        return problems + deviceProblems(menu, calls);
+        return problems() + deviceProblems(menu, calls);
     }
 
     // Severity and name of each.
@@ -55,16 +53,6 @@ class MenuCheckTest : public QObject {
     QString root() const { return QStringLiteral("--web-root=") + device.paths().webRoot; }
     QString tool() const { return QStringLiteral("--tool=") + device.paths().backendTool; }
     const QString tree = QStringLiteral("--tree");
-
-    // For the program, which finds the script below the web root.
-    void setMenu(const QByteArray &screens)
-    {
-        const QString script = device.paths().webRoot + QStringLiteral("/scripts/settings.js");
-        device.setScript("Settings = {setupStructureVersion: 1, settings: " + screens + "}");
-        QFile::remove(script);
-        QVERIFY(QDir().mkpath(QFileInfo(script).path())
-            && QFile::rename(device.paths().settingsScript, script));
-    }
 
     static QByteArray run(const QStringList &arguments)
     {
@@ -112,12 +100,11 @@ private slots:
             commands += '\'' + text.key().toUtf8() + "') cat <<'END'\n"
                 + text.value().toString().toUtf8() + "\nEND\n;;\n";
         device.setTool(commands + "esac");
-        const QByteArray script = QString(helpers
-            + QStringLiteral("\nvar Settings = "
-                             "{ setupStructureVersion: 1, settings: %1 };")
+        device.setScript((helpers
+            + QStringLiteral("\nvar Settings = { setupStructureVersion: 1, settings: %1 };")
                   .arg(screens))
-                                      .toUtf8();
-        const QStringList lines = answers.isEmpty() ? problemsOf(script) : deviceProblemsOf(script);
+                             .toUtf8());
+        const QStringList lines = answers.isEmpty() ? problems() : problemsOnDevice();
         const QString report = lines.join(QLatin1Char('\n'));
         QTEST(namesOf(lines), "problems");
         QVERIFY2(report.contains(says), qPrintable(report));
@@ -153,10 +140,8 @@ private slots:
         device.setTool(commands);
         if (commands.isEmpty())
             QFile::remove(device.paths().backendTool);
-        QTEST(namesOf(deviceProblemsOf(
-                  "Settings = {setupStructureVersion: 1, settings: " + QByteArray(oneField) + "}",
-                  patienceMs)),
-            "problems");
+        device.setScreens(oneField);
+        QTEST(namesOf(problemsOnDevice(patienceMs)), "problems");
     }
 
     void findsFaultsOfFiles_data()
@@ -193,7 +178,8 @@ private slots:
         QFETCH(QByteArray, script);
         QFETCH(QByteArray, table);
         QFETCH(QString, report);
-        QStringList lines = problemsOf(script);
+        device.setScript(script);
+        QStringList lines = problems();
         device.setTranslations(table);
         lines += fileFault(device.paths());
         lines.removeAll(QString());
@@ -212,18 +198,18 @@ private slots:
                 + run({ demo, QStringLiteral("--tool=x") }),
             QByteArray("2 2 2 "));
 
-        setMenu("[{css: 'r', screens: [{css: 'a'}]},"
-                "{css: 'a', 'ajax-read': 'r', screens: [{i18n: 'smile'}]}]");
+        device.setScreens("[{css: 'r', screens: [{css: 'a'}]},"
+                          "{css: 'a', 'ajax-read': 'r', screens: [{i18n: 'smile'}]}]");
         QCOMPARE(run({ root() }).left(19) + run({ root(), tree }),
             QByteArray("1 warning: a: A > a0 ->  A\n +   -  a?\n"));
-        QVERIFY(QFile::remove(device.paths().webRoot + QStringLiteral("/scripts/settings.js")));
+        QVERIFY(QFile::remove(device.paths().settingsScript));
         QCOMPARE(run({ root() }), QByteArray("2 "));
     }
 
     void recordsDevice()
     {
         const QStringList record { root(), tree, QStringLiteral("--device"), tool() };
-        setMenu(oneField);
+        device.setScreens(oneField);
         device.setTool("echo '[\"i18n_k\"]'");
         QCOMPARE(run(record), "0 ->  A\n +   -  A" + QByteArray(45, ' ') + "K\n");
         device.setTool("[ $1 = r ] || echo '[1]'");
@@ -252,7 +238,7 @@ private slots:
 
     void endsAtOnce()
     {
-        setMenu(oneField);
+        device.setScreens(oneField);
         device.setTool("echo $$ > \"${0%/*}/pid\"; exec sleep 60");
         QFile pid(device.paths().webRoot + QStringLiteral("/pid"));
         PtySession session;

@@ -15,10 +15,12 @@ void writeFile(const QString &path, const QByteArray &content)
 } // namespace
 
 FakeDevice::FakeDevice()
-    : devicePaths { directory.path(), directory.filePath(QStringLiteral("settings.js")),
+    : devicePaths { directory.path(), directory.filePath(QStringLiteral("scripts/settings.js")),
         directory.filePath(QStringLiteral("tool")) }
 {
-    QDir(directory.path()).mkpath(QStringLiteral("locales/en"));
+    const QDir webRoot(directory.path());
+    webRoot.mkpath(QStringLiteral("locales/en"));
+    webRoot.mkpath(QStringLiteral("scripts"));
     setTool(":");
 }
 
