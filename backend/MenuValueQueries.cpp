@@ -65,10 +65,10 @@ void TreeViewItemHandler::readOpenItems(TreeViewItem &item)
 
 bool TreeViewItemHandler::readValues(TreeViewItem &item)
 {
-    const bool isBound = readBinding(item).has_value();
-    if (isBound)
-        assignItemValues(item, script.read(readArguments(item), true));
-    return isBound;
+    if (!readBinding(item))
+        return false;
+    assignItemValues(item, script.read(readArguments(item), true));
+    return true;
 }
 
 QVariantList TreeViewItemHandler::interfaceList(InterfaceKind kind, int tagNumber)
