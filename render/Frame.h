@@ -41,6 +41,6 @@ void highlightLine(Frame &frame, int line);
 /// green.
 void colourSegment(Frame &frame, int width, int line, int length, bool red);
 
-/// Overwrites the middle of a line of `width` columns with `text`: as if it were `maxLength`
-/// characters long, at most `width` - 2, or by its own length where `maxLength` is 0.
+/// Overwrites a line of `width` columns with `text`, from where a text of `maxLength` characters,
+/// at most `width` - 2, would be centred; 0 stands for the text's own length.
 void placeCentred(Frame &frame, int width, int line, const QString &text, int maxLength);

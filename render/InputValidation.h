@@ -17,10 +17,10 @@ qint64 rangeValue(const TreeViewItemHandler &handler, const TreeViewItem &item, 
 
 /// An item's rule, taken apart.
 struct InputRule {
-    enum Kind { Refusing, Text, Number }; ///< Refusing takes no text at all
+    enum Kind { Refusing, Text, Number }; ///< Refusing accepts no text at all
     Kind kind = Refusing;
-    /// The most characters; nothing unless a whole number follows the letter. Decimal rules
-    /// ("N5.2") have none, so they refuse every text, too.
+    /// The most characters; nothing unless a whole number follows the letter. A rule without it,
+    /// such as "N5.2" for decimals, refuses every text, too.
     std::optional<qint64> length;
 };
 

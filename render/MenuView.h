@@ -5,12 +5,12 @@
 #include "render/Frame.h"
 
 /// The lines of `item` and of what is shown below it, for a terminal of `termColumns` columns. The
-/// root of the tree has no line of its own. `note` takes how the last list value was found.
+/// root of the tree has no line of its own. `note` receives how the last list value was found.
 Frame menuLines(const TreeViewItemHandler &handler, const TreeViewItem &item, int termColumns,
     QString *note = nullptr);
 
-/// The translation key that the backend marks as such in the text of a value; empty without a mark,
-/// and for dates and positions, which have marks of their own.
+/// The translation key in a value that the backend marks as one ("i18n_key"); empty for any other
+/// text, and for dates and positions, whose marks begin alike.
 QString markedKey(const QString &text);
 
 /// The column, from 0, at which values begin.
