@@ -152,11 +152,11 @@ int horizontalIndex(const ViewState &state, const TreeViewItemHandler &handler, 
 {
     if (index < state.rangeMin)
         return state.rangeMin;
+    if (index > state.rangeLimit)
+        return state.rangeLimit;
     const TreeViewItem *const item = state.selectedItem();
-    const int textLength = state.editBuffer.size();
-    if (item && handler.inputKind(*item) == EditInput && index >= textLength)
-        return index > state.rangeLimit ? state.rangeLimit : textLength;
-    return int(qMin<qint64>(index, state.rangeLimit));
+    const bool isEdit = item && handler.inputKind(*item) == EditInput;
+    return isEdit ? qMin(int(index), state.editBuffer.size()) : int(index);
 }
 
 } // namespace
