@@ -26,11 +26,8 @@ void drawChannels(
 
 void drawPagedScreen(Frame &frame, const PageLayout &layout, int shown, const QVariantList &answer)
 {
-    placeLeft(frame, 1,
-        QStringLiteral("%1%2/%3")
-            .arg(QLatin1String(layout.label))
-            .arg(shown + 1)
-            .arg(interfaceCount));
+    const QString page = QStringLiteral("%1/%2").arg(shown + 1).arg(interfaceCount);
+    placeLeft(frame, 1, QLatin1String(layout.label) + page);
     if (shown >= answer.size())
         return placeNotAvailable(frame);
     const QVariantList interface = answer.at(shown).toList();
