@@ -85,7 +85,12 @@ Findings storedValueFindings(const TreeViewItemHandler &handler, const TreeViewI
         return sliderValueFindings(handler, item);
     case EditInput:
         return textValueFindings(item.value) + editValueFindings(handler, item);
-    default:
-        return textValueFindings(item.value);
+    case SeparatorInput:
+    case ButtonInput:
+    case LabelInput:
+    case PlainInput:
+    case NoInput:
+        break;
     }
+    return textValueFindings(item.value);
 }
