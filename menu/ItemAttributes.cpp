@@ -16,6 +16,8 @@ constexpr int maximumValues = 100000;
 template <size_t count>
 size_t placeOf(const QScriptValue &value, const std::array<const char *, count> &words)
 {
+    if (!value.isValid())
+        return count;
     const QString text = value.toString();
     size_t place = 0;
     while (place < count && text != QLatin1String(words[place]))
@@ -126,6 +128,8 @@ bool TreeViewItemHandler::isExcluded(const TreeViewItem &item) const
     QScriptValue css = item.definition.property(propertyNames.css);
     if (!css.isValid())
         css = item.referringEntry.property(propertyNames.css);
+    if (!css.isValid())
+        return false;
     const QString name = css.toString();
     return name.contains(QLatin1String("TODO")) || name == QLatin1String("btnLoadingplan")
         || name == QLatin1String("btnServiceLoadingplan");
