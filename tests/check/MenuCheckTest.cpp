@@ -5,10 +5,8 @@
 #include "preview/SimulatedDevice.h"
 #include "terminal/PtySession.h"
 #include "tests/support/FakeDevice.h"
+#include "tests/support/Rows.h"
 #include "tests/support/RunProgram.h"
-
-#include <QDir>
-#include <QtTest>
 
 static const char translations[] = R"({"a": "A", "b": "B", "r": "R", "smile": "a☺", "k": "K",
     "compartment": "C", "btnParameterTruckSetup": "T",
@@ -61,11 +59,8 @@ class MenuCheckTest : public QObject {
     }
 
 private slots:
-    void initTestCase()
-    {
-        device.setTranslations(translations);
-        CTranslationHandler::setInstanceRoot(device.paths().webRoot);
-    }
+    void initTestCase() { CTranslationHandler::setInstanceRoot(device.paths().webRoot); }
+    void init() { device.setTranslations(translations); }
 
     void findsFaults_data()
     {
@@ -77,13 +72,13 @@ private slots:
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QString text = QString::fromUtf8(file.readAll());
         helpers = text.section(QStringLiteral("```"), 1, 1).mid(2); // without the fence's "js"
-        for (const QString &line : text.split(QLatin1Char('\n'))) {
+        const QRegularExpression row(QStringLiteral("^\\| (?!fault|---)"));
+        for (const QString &line : text.split(QLatin1Char('\n')).filter(row)) {
             const QStringList cells = line.split(QStringLiteral(" |"));
             const auto cell = [&cells](int i) {
                 return cells.value(i).trimmed().remove(QLatin1Char('`'));
             };
-            if (line.endsWith(QLatin1String("` |")))
-                QTest::newRow(cells[0].mid(2).toUtf8()) << cell(1) << cell(2) << cell(3) << cell(4);
+            QTest::newRow(cells[0].mid(2).toUtf8()) << cell(1) << cell(2) << cell(3) << cell(4);
         }
     }
     void findsFaults()
@@ -117,14 +112,7 @@ private slots:
 
     void survivesTools_data()
     {
-        QTest::addColumn<QByteArray>("commands");
-        QTest::addColumn<int>("patienceMs");
-        QTest::addColumn<QString>("problems");
-        const auto row = [](const char *name, const char *commands, int patience,
-                             const char *problems) {
-            QTest::newRow(name) << QByteArray(commands) << patience
-                                << QString::fromLatin1(problems);
-        };
+        const Rows<QByteArray, int, QString> row("commands", "patienceMs", "problems");
         row("crash", "kill -SEGV $$", BackendTool::patienceMs,
             "warning no-tool-version, error no-array, error no-array");
         row("hang", "echo '[1]'; exec sleep 60", 300,
@@ -146,32 +134,25 @@ private slots:
 
     void findsFaultsOfFiles_data()
     {
-        QTest::addColumn<QByteArray>("script");
-        QTest::addColumn<QByteArray>("table");
-        QTest::addColumn<QString>("report");
+        const Rows<QByteArray, QByteArray, QString> row("script", "table", "report");
         const QByteArray good = "Settings = {settings: [{css: 'r'}], setupStructureVersion: 1}";
-        const auto script = [](const char *name, const QByteArray &text, const char *report) {
-            QTest::newRow(name) << text << QByteArray("{}") << QString::fromLatin1(report);
-        };
-        const auto table = [good](const char *name, const QByteArray &text, const char *report) {
-            QTest::newRow(name) << good << text << QString::fromLatin1(report);
-        };
-        script("good", good, "");
-        script("no version", "Settings = {settings: [{css: 'r'}]}",
+        row("good", good, "{}", "");
+        row("no version", "Settings = {settings: [{css: 'r'}]}", "{}",
             "has no \"setupStructureVersion\"");
-        script("no version, allowed",
-            "Settings = {settings: [{css: 'r'}], checkIgnore: 'no-version'}", "");
-        script("bracket missing", "Settings = {\nsettings: [", "line 2, column 11: Syntax error");
-        script("unknown name", good + ";\nnobody.calls()", "line 2: ReferenceError");
-        script("late throw", good + "; throw 'late'", "line 1: late");
-        script("no screens", "Settings = {}", "defines no screens");
-        table("stray comma", "{\"a\": \"A\",\n \"\xc3\xa4\": \"B\",}",
+        row("no version, allowed", "Settings = {settings: [{css: 'r'}], checkIgnore: 'no-version'}",
+            "{}", "");
+        row("bracket missing", "Settings = {\nsettings: [", "{}",
+            "line 2, column 11: Syntax error");
+        row("unknown name", good + ";\nnobody.calls()", "{}", "line 2: ReferenceError");
+        row("late throw", good + "; throw 'late'", "{}", "line 1: late");
+        row("no screens", "Settings = {}", "{}", "defines no screens");
+        row("stray comma", good, "{\"a\": \"A\",\n \"\xc3\xa4\": \"B\",}",
             ": line 2, column 11: Missing a name");
-        table("byte order mark", "\xef\xbb\xbf{}", "byte order mark");
-        table("array", "[]", "is no JSON object");
-        table(
-            "too deep", QByteArray(600, '['), "column 513: A number is too large, or the nesting");
-        table("zero byte", QByteArray("{\0}", 3), "line 1, column 2: ");
+        row("byte order mark", good, "\xef\xbb\xbf{}", "byte order mark");
+        row("array", good, "[]", "is no JSON object");
+        row("too deep", good, QByteArray(600, '['),
+            "column 513: A number is too large, or the nesting");
+        row("zero byte", good, QByteArray("{\0}", 3), "line 1, column 2: ");
     }
     void findsFaultsOfFiles()
     {
@@ -185,7 +166,6 @@ private slots:
         lines.removeAll(QString());
         QCOMPARE(lines.size(), report.isEmpty() ? 0 : 1);
         QVERIFY2(lines.value(0).contains(report), qPrintable(lines.value(0)));
-        device.setTranslations(translations);
     }
 
     void runsAsProgram()

@@ -2,8 +2,7 @@
 #include "json/JsonReader.h"
 #include "json/JsonWriter.h"
 #include "json/Values.h"
-
-#include <QtTest>
+#include "tests/support/Rows.h"
 
 class JsonTest : public QObject {
     Q_OBJECT
@@ -18,11 +17,10 @@ private slots:
 
 void JsonTest::readsAndWrites_data()
 {
-    QTest::addColumn<QByteArray>("json");
-    QTest::addColumn<QByteArray>("type");
-    QTest::addColumn<QByteArray>("written"); ///< nothing when the text is refused
-    const auto row = [](const char *type, const QByteArray &json, const QByteArray &written) {
-        QTest::addRow("\"%s\"", json.left(60).constData()) << json << QByteArray(type) << written;
+    const Rows<QByteArray, QByteArray, QByteArray> add("type", "json", "written");
+    // Nothing is written of texts that are refused.
+    const auto row = [&add](const char *type, const QByteArray &json, const QByteArray &written) {
+        add('"' + json.left(60) + '"', type, json, written);
     };
     row("", "null", "null");
     row("bool", "true", "true");
@@ -66,15 +64,11 @@ void JsonTest::writesNoOtherNumbers()
 
 void JsonTest::readsValues_data()
 {
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("integer");
-    QTest::addColumn<qint64>("wideInteger");
-    QTest::addColumn<bool>("truth");
-    const auto row = [](const QVariant &value, const char *text, int integer, qint64 wideInteger,
+    const Rows<QVariant, QString, int, qint64, bool> add(
+        "value", "text", "integer", "wideInteger", "truth");
+    const auto row = [&add](const QVariant &value, const char *text, int integer, qint64 wide,
                          bool truth) {
-        QTest::addRow("%s %s", value.typeName(), text)
-            << value << QString::fromLatin1(text) << integer << wideInteger << truth;
+        add(value.typeName() + QByteArray(" ") + text, value, text, integer, wide, truth);
     };
     row({}, "", 0, 0, false);
     row(true, "true", 1, 1, true);

@@ -1,7 +1,6 @@
 #include "locale/CTranslationHandler.h"
 #include "tests/support/FakeDevice.h"
-
-#include <QtTest>
+#include "tests/support/Rows.h"
 
 class TranslationTest : public QObject {
     Q_OBJECT
@@ -21,13 +20,13 @@ void TranslationTest::translates_data()
     device.setTranslations(R"({"text": "Fläche", "Text": "x", "empty": "", "zero": 0,
         "million": 1000000.0, "flag": true, "list": ["a"], "map": {"a": "b"}, "null": null})");
     CTranslationHandler::setInstanceRoot(device.paths().webRoot);
-    QTest::addColumn<QString>("translation");
-    QTest::newRow("text") << QStringLiteral("Fläche");
-    QTest::newRow("zero") << QStringLiteral("0");
-    QTest::newRow("million") << QStringLiteral("1000000");
-    QTest::newRow("flag") << QStringLiteral("true");
+    const Rows<QString> row("translation");
+    row("text", "Fläche");
+    row("zero", "0");
+    row("million", "1000000");
+    row("flag", "true");
     for (const char *key : { "TEXT", "missing", "empty", "list", "map", "null", "dateformat", "" })
-        QTest::newRow(key) << QString::fromLatin1(key);
+        row(key, key);
 }
 
 void TranslationTest::translates()
@@ -37,15 +36,13 @@ void TranslationTest::translates()
 
 void TranslationTest::loads_data()
 {
-    QTest::addColumn<QByteArray>("table");
-    QTest::addColumn<QVariant>("dateFormat"); ///< invalid: the table cannot be loaded
-    QTest::newRow("date format") << QByteArray(R"({"dateformat": "Do.MM.YYYY"})")
-                                 << QVariant(QStringLiteral("do.MM.yyyy"));
-    QTest::newRow("no text") << QByteArray(R"({"dateformat": 7})") << QVariant(QString());
-    QTest::newRow("none") << QByteArray(R"({"a": 1})") << QVariant(QString());
-    QTest::newRow("up to a NUL byte") << QByteArray("{}\0 x", 5) << QVariant(QString());
+    const Rows<QByteArray, QVariant> row("table", "dateFormat");
+    row("date format", R"({"dateformat": "Do.MM.YYYY"})", QStringLiteral("do.MM.yyyy"));
+    row("no text", R"({"dateformat": 7})", QString());
+    row("none", R"({"a": 1})", QString());
+    row("up to a NUL byte", QByteArray("{}\0 x", 5), QString());
     for (const char *table : { R"([{"a": "b"}])", " ", R"({"a")", "{} x" })
-        QTest::newRow(table) << QByteArray(table) << QVariant();
+        row(table, table, {}); // cannot be loaded
 }
 
 void TranslationTest::loads()

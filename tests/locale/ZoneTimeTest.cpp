@@ -1,7 +1,6 @@
 // Times across zones, and the process's own zone afterwards.
 #include "locale/ZoneTime.h"
-
-#include <QtTest>
+#include "tests/support/Rows.h"
 
 class ZoneTimeTest : public QObject {
     Q_OBJECT
@@ -13,16 +12,8 @@ private slots:
 
 void ZoneTimeTest::converts_data()
 {
-    QTest::addColumn<QByteArray>("ownZone"); ///< null: none is set
-    QTest::addColumn<bool>("from");
-    QTest::addColumn<QString>("time");
-    QTest::addColumn<bool>("honourDst");
-    QTest::addColumn<QString>("result");
-    const auto row = [](const char *name, const QByteArray &zone, bool from, const char *time,
-                         bool dst, const char *result) {
-        QTest::newRow(name) << zone << from << QString::fromLatin1(time) << dst
-                            << QString::fromLatin1(result);
-    };
+    const Rows<QByteArray, bool, QString, bool, QString> row(
+        "ownZone", "from", "time", "honourDst", "result"); // a null zone: none is set
     row("from summer", {}, true, "2024-07-01T12:00:00", true, "2024-07-01T10:00:00");
     row("from summer as standard time", {}, true, "2024-07-01T12:00:00", false,
         "2024-07-01T11:00:00");

@@ -1,8 +1,7 @@
 // What an item's definition, and the entry that refers to it, say about the item, as far as no
 // transcript shows it.
 #include "menu/TreeViewItemHandler.h"
-
-#include <QtTest>
+#include "tests/support/Rows.h"
 
 #include <functional>
 
@@ -35,14 +34,11 @@ private slots:
 
 void AttributesTest::describes_data()
 {
-    QTest::addColumn<QByteArray>("query");
-    QTest::addColumn<QByteArray>("definition");
-    QTest::addColumn<QByteArray>("entry");
-    QTest::addColumn<QVariant>("answer");
-    const auto row = [](const char *query, const QByteArray &definition, const QVariant &answer,
-                         const QByteArray &entry = {}) {
-        QTest::addRow("%s of {%s} < {%s}", query, definition.constData(), entry.constData())
-            << QByteArray(query) << definition << entry << answer;
+    const Rows<QByteArray, QByteArray, QByteArray, QVariant> add(
+        "query", "definition", "entry", "answer");
+    const auto row = [&add](const QByteArray &query, const QByteArray &definition,
+                         const QVariant &answer, const QByteArray &entry = {}) {
+        add(query + " of {" + definition + "} < {" + entry + '}', query, definition, entry, answer);
     };
     row("label", "i18n: 'own'", QStringLiteral("own"), "i18n: 'entry'");
     row("label", "i18n: '', css: 'aShow'", QStringLiteral("entry"), "i18n: 'entry'");

@@ -3,8 +3,7 @@
 #include "menu/TreeViewItemHandler.h"
 #include "render/MenuView.h"
 #include "tests/support/FakeDevice.h"
-
-#include <QtTest>
+#include "tests/support/Rows.h"
 
 // What the definitions below are written with. The tool prints the words that it is asked with, so
 // the counts are in the definition.
@@ -50,14 +49,11 @@ private slots:
 
 void TreeTest::builds_data()
 {
-    QTest::addColumn<QByteArray>("definition");
-    QTest::addColumn<QString>("tree");
-    QTest::addColumn<QString>("warning");
-    QTest::addColumn<QString>("version");
-    const auto row = [](const char *name, const char *definition, const char *tree,
+    const Rows<QByteArray, QString, QString, QString> add(
+        "definition", "tree", "warning", "version");
+    const auto row = [&add](const char *name, const char *definition, const char *tree,
                          const char *warning = "", const char *version = "7") {
-        QTest::newRow(name) << QByteArray(definition) << QString::fromLatin1(tree)
-                            << QString::fromLatin1(warning) << QString::fromLatin1(version);
+        add(name, definition, tree, warning, version);
     };
     row("in their order",
         "[screen('r', [field('F'), to('a'), field('G')]), screen('a', [to('a')])]", "r(F a G)",

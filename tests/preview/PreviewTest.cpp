@@ -4,9 +4,8 @@
 #include "preview/SimulatedDevice.h"
 #include "render/ValueDialog.h"
 #include "tests/support/FakeDevice.h"
+#include "tests/support/Rows.h"
 #include "tests/support/RunProgram.h"
-
-#include <QtTest>
 
 // Screens that read and write a group called as their css.
 static const char helpers[] = R"(
@@ -81,14 +80,12 @@ class PreviewTest : public QObject {
 private slots:
     void playsEveryScreen_data()
     {
-        QTest::addColumn<QByteArray>("script");
-        QTest::addColumn<int>("values");
-        QTest::addColumn<int>("changes");
+        const Rows<QByteArray, int, int> row("script", "values", "changes");
         QFile demo(QStringLiteral(DEMO_SCRIPT));
         QVERIFY(demo.open(QIODevice::ReadOnly));
-        QTest::newRow("demo") << demo.readAll() << 364 << 152;
-        const auto add = [](const char *name, const char *define, int values, int changes) {
-            QTest::newRow(name) << QByteArray(helpers) + define << values << changes;
+        row("demo", demo.readAll(), 364, 152);
+        const auto add = [&row](const char *name, const char *define, int values, int changes) {
+            row(name, QByteArray(helpers) + define, values, changes);
         };
         add("no definition", "", 0, 0);
         add("no screens", "define([])", 0, 0);
@@ -145,11 +142,7 @@ private slots:
 
     void refusesWhatDoesNotFit_data()
     {
-        QTest::addColumn<QString>("values");
-        QTest::addColumn<bool>("isAccepted");
-        const auto row = [](const char *name, const char *values, bool isAccepted) {
-            QTest::newRow(name) << QString::fromLatin1(values) << isAccepted;
-        };
+        const Rows<QString, bool> row("values", "isAccepted");
         row("as read", R"([false, 0, "A", 7, "v", "value 6"])", true);
         row("as typed", R"([true, 6, 2.5, "9", "x", "value 6"])", true);
         row("too few", R"([false, 0, "A", 7, "v"])", false);

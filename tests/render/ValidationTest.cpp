@@ -1,7 +1,6 @@
 // What each rule of an edit item accepts and how long its field is.
 #include "render/InputValidation.h"
-
-#include <QtTest>
+#include "tests/support/Rows.h"
 
 class ValidationTest : public QObject {
     Q_OBJECT
@@ -13,15 +12,11 @@ private slots:
 
 void ValidationTest::judges_data()
 {
-    QTest::addColumn<QString>("rule");
-    QTest::addColumn<int>("length");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("accepted");
-    const auto judge = [](const char *rule, int length, const QByteArrayList &accepted,
+    const Rows<QString, int, QString, bool> row("rule", "length", "text", "accepted");
+    const auto judge = [&row](const char *rule, int length, const QByteArrayList &accepted,
                            const QByteArrayList &refused) {
         for (const QByteArray &text : accepted + refused)
-            QTest::addRow("%s for \"%s\"", rule, text.constData()) << QString::fromLatin1(
-                rule) << length << QString::fromLatin1(text) << accepted.contains(text);
+            row(rule + (" for \"" + text + '"'), rule, length, text, accepted.contains(text));
     };
     judge("validation: 'C5'", 5, { "", "a+-.:" }, { "abcdef" });
     judge("validation: 'C4294967297'", 2147483647, { "a" }, {});
