@@ -1,8 +1,7 @@
 #include "device/BackendTool.h"
 #include "menu/TreeViewItemHandler.h"
 #include "tests/support/FakeDevice.h"
-
-#include <QtTest>
+#include "tests/support/Rows.h"
 
 #include <csignal>
 
@@ -28,13 +27,7 @@ private slots:
 
     void understandsAnswers_data()
     {
-        QTest::addColumn<QByteArray>("commands");
-        QTest::addColumn<QByteArray>("list");
-        QTest::addColumn<bool>("confirmsWrite");
-        const auto row = [](const char *name, const char *commands, const char *list,
-                             bool confirmsWrite) {
-            QTest::newRow(name) << QByteArray(commands) << QByteArray(list) << confirmsWrite;
-        };
+        const Rows<QByteArray, QByteArray, bool> row("commands", "list", "confirmsWrite");
         row("true", "echo [true]", "[true]", true);
         row("false", "echo [false]", "[false]", false);
         row("zero", "echo [0]", "[0]", false);
@@ -47,6 +40,7 @@ private slots:
         row("empty list", "echo []", "[]", false);
         row("object", "echo '{\"a\": 1}'", "[]", false);
         row("no list", "echo true", "[]", false);
+        row("no JSON", "echo '[1] x'", "[]", false);
         row("crash", "printf [3]; kill -SEGV $$", "[3]", true);
         row("exit status", "echo x >&2; echo [4]; exit 1", "[4]", true);
         row("closed output", "echo [5]; exec >&-; sleep 0.1", "[5]", true);
@@ -60,16 +54,6 @@ private slots:
         QTEST(ScriptHelper::variantListToJson(values).toUtf8(), "list");
         QStringList arguments(word);
         QTEST(handler.scriptHelper().write(arguments, values), "confirmsWrite");
-    }
-
-    void reportsOtherOutput()
-    {
-        for (const char *output : { "", "oops", "[1,", "[1] x", "say \"no\"\\" }) {
-            device.setTool(QByteArray("printf '%s' '") + output + '\'');
-            QTest::ignoreMessage(QtDebugMsg,
-                QByteArray("byteArray2VariantList: parsing failed. Input was:  \"") + output + '"');
-            QCOMPARE(handler.scriptHelper().read({ word }, true), QVariantList());
-        }
     }
 
     void passesArgumentsAsTheyAre()
@@ -94,14 +78,13 @@ private slots:
 
     void killsWhatHangs_data()
     {
-        QTest::addColumn<QByteArray>("tool");
-        QTest::addColumn<bool>("hangs");
-        QTest::newRow("waits for its child") << QByteArray("sleep 60 & echo $$ $!; wait") << true;
-        QTest::newRow("leaves a child") << QByteArray("sleep 60 & echo $$ $!") << false;
-        QTest::newRow("leaves its group")
-            << QByteArray("sleep 60 & echo $$ $!\n"
-                          "exec perl -e 'setpgrp(0, getpgrp(getppid())); sleep 60'")
-            << true;
+        const Rows<QByteArray, bool> row("tool", "hangs");
+        row("waits for its child", "sleep 60 & echo $$ $!; wait", true);
+        row("leaves a child", "sleep 60 & echo $$ $!", false);
+        row("leaves its group",
+            "sleep 60 & echo $$ $!\n"
+            "exec perl -e 'setpgrp(0, getpgrp(getppid())); sleep 60'",
+            true);
     }
 
     void killsWhatHangs()
@@ -124,7 +107,7 @@ private slots:
     void givesUpWhatCannotBeKilled()
     {
         if (geteuid() != 0)
-            return QTest::qSkip("only root can make such a tool", __FILE__, __LINE__);
+            QSKIP("only root can make a tool that runs as another user");
         QTemporaryDir directory;
         const QString tool = directory.filePath(QStringLiteral("setpriv"));
         QVERIFY(QFile::copy(QStringLiteral("/usr/bin/setpriv"), tool));
