@@ -112,11 +112,11 @@ private slots:
         add("screens as an object", R"(define({ 1: to('page') },
                 [page('page', { x: field('boolean'), y: field('label') })]))",
             2, 1);
-        add("screens with the same words", R"(
-                var small = page('same', [field('boolean')]), large = page('same', [field('boolean'),
-                field('label')]); large.css = 'large';
-                define([to('same'), to('large')], [small, large]))",
-            3, 2);
+        add("screens with the same words", R"(function same(css, fields) {
+                var made = page('same', fields); made.css = css; return made; }
+            define([to('a'), to('b'), to('c')], [same('a', [field('boolean')]),
+                same('b', [field('boolean'), field('label')]), same('c', [field('boolean')])]))",
+            4, 3);
     }
 
     void playsEveryScreen()
