@@ -113,19 +113,23 @@ private slots:
         QVERIFY(QFile::copy(QStringLiteral("/usr/bin/setpriv"), tool));
         QCOMPARE(chmod(QFile::encodeName(directory.path()).constData(), 0755), 0);
         QCOMPARE(chmod(QFile::encodeName(tool).constData(), 04755), 0);
+        constexpr int noOtherUser = 2;
         const pid_t console = fork();
         if (console == 0) {
             constexpr uid_t nobody = 65534;
-            const bool isOther = setuid(nobody) == 0;
+            if (setuid(nobody) != 0)
+                _exit(noOtherUser);
             const QByteArray answer = BackendTool::run(tool,
                 { QStringLiteral("--reuid=0"), QStringLiteral("sh"), QStringLiteral("-c"),
                     QStringLiteral("echo $(id -ru); sleep 30") },
                 2000);
-            _exit(isOther && answer == "0\n" ? 0 : 1);
+            _exit(answer == "0\n" ? 0 : 1);
         }
         int status = -1;
         QTRY_VERIFY_WITH_TIMEOUT(
             status >= 0 || waitpid(console, &status, WNOHANG) == console, 15000);
+        if (WIFEXITED(status) && WEXITSTATUS(status) == noOtherUser)
+            return QTest::qSkip("there is no other user in this namespace", __FILE__, __LINE__);
         QCOMPARE(status, 0);
     }
 
