@@ -8,71 +8,66 @@ class TranslationTest : public QObject {
     FakeDevice device;
 
 private slots:
-    void translates_data();
-    void translates();
-    void loads_data();
-    void loads();
-    void loadsDatabaseNames();
+    void translates_data()
+    {
+        device.setTranslations(R"({"text": "Fläche", "Text": "x", "empty": "", "zero": 0,
+            "million": 1000000.0, "flag": true, "list": ["a"], "map": {"a": "b"}, "null": null})");
+        CTranslationHandler::setInstanceRoot(device.paths().webRoot);
+        const Rows<QString> row("translation");
+        row("text", "Fläche");
+        row("zero", "0");
+        row("million", "1000000");
+        row("flag", "true");
+        for (const char *key :
+            { "TEXT", "missing", "empty", "list", "map", "null", "dateformat", "" })
+            row(key, key);
+    }
+
+    void translates()
+    {
+        QTEST(translate(QString::fromLatin1(QTest::currentDataTag())), "translation");
+    }
+
+    void loads_data()
+    {
+        const Rows<QByteArray, QVariant> row("table", "dateFormat");
+        row("date format", R"({"dateformat": "Do.MM.YYYY"})", QStringLiteral("do.MM.yyyy"));
+        row("no text", R"({"dateformat": 7})", QString());
+        row("none", R"({"a": 1})", QString());
+        row("up to a NUL byte", QByteArray("{}\0 x", 5), QString());
+        for (const char *table : { R"([{"a": "b"}])", " ", R"({"a")", "{} x" })
+            row(table, table, {}); // cannot be loaded
+    }
+
+    void loads()
+    {
+        QFETCH(QByteArray, table);
+        QFETCH(QVariant, dateFormat);
+        const auto loadedFormat = [](CTranslationHandler &handler) {
+            return handler.translationMap(QStringLiteral("en")).value(QStringLiteral("dateformat"));
+        };
+        device.setTranslations(table);
+        if (!dateFormat.isValid())
+            QTest::ignoreMessage(QtDebugMsg,
+                "CTranslationHandler::loadTranslationMap => Loading translation map for \"en\" "
+                "failed \""
+                    + device.paths().webRoot.toUtf8() + "/locales/en/translation.json\"");
+        CTranslationHandler handler(device.paths().webRoot);
+        QCOMPARE(loadedFormat(handler), dateFormat);
+        // What was loaded is kept, what failed is tried again.
+        device.setTranslations(R"({"dateformat": "D"})");
+        QCOMPARE(loadedFormat(handler) == QStringLiteral("d"), !dateFormat.isValid());
+    }
+
+    void loadsDatabaseNames()
+    {
+        const QString root = device.paths().webRoot;
+        device.setTranslations(R"({"a": "b"})");
+        QVERIFY(QFile::link(QStringLiteral("en/translation.json"),
+            root + QStringLiteral("/locales/database_to_gui.json")));
+        QCOMPARE(CTranslationHandler(root).databaseToGuiMap().size(), 1);
+    }
 };
-
-void TranslationTest::translates_data()
-{
-    device.setTranslations(R"({"text": "Fläche", "Text": "x", "empty": "", "zero": 0,
-        "million": 1000000.0, "flag": true, "list": ["a"], "map": {"a": "b"}, "null": null})");
-    CTranslationHandler::setInstanceRoot(device.paths().webRoot);
-    const Rows<QString> row("translation");
-    row("text", "Fläche");
-    row("zero", "0");
-    row("million", "1000000");
-    row("flag", "true");
-    for (const char *key : { "TEXT", "missing", "empty", "list", "map", "null", "dateformat", "" })
-        row(key, key);
-}
-
-void TranslationTest::translates()
-{
-    QTEST(translate(QString::fromLatin1(QTest::currentDataTag())), "translation");
-}
-
-void TranslationTest::loads_data()
-{
-    const Rows<QByteArray, QVariant> row("table", "dateFormat");
-    row("date format", R"({"dateformat": "Do.MM.YYYY"})", QStringLiteral("do.MM.yyyy"));
-    row("no text", R"({"dateformat": 7})", QString());
-    row("none", R"({"a": 1})", QString());
-    row("up to a NUL byte", QByteArray("{}\0 x", 5), QString());
-    for (const char *table : { R"([{"a": "b"}])", " ", R"({"a")", "{} x" })
-        row(table, table, {}); // cannot be loaded
-}
-
-void TranslationTest::loads()
-{
-    QFETCH(QByteArray, table);
-    QFETCH(QVariant, dateFormat);
-    const auto loadedFormat = [](CTranslationHandler &handler) {
-        return handler.translationMap(QStringLiteral("en")).value(QStringLiteral("dateformat"));
-    };
-    device.setTranslations(table);
-    if (!dateFormat.isValid())
-        QTest::ignoreMessage(QtDebugMsg,
-            "CTranslationHandler::loadTranslationMap => Loading translation map for \"en\" "
-            "failed \""
-                + device.paths().webRoot.toUtf8() + "/locales/en/translation.json\"");
-    CTranslationHandler handler(device.paths().webRoot);
-    QCOMPARE(loadedFormat(handler), dateFormat);
-    // What was loaded is kept, what failed is tried again.
-    device.setTranslations(R"({"dateformat": "D"})");
-    QCOMPARE(loadedFormat(handler) == QStringLiteral("d"), !dateFormat.isValid());
-}
-
-void TranslationTest::loadsDatabaseNames()
-{
-    const QString root = device.paths().webRoot;
-    device.setTranslations(R"({"a": "b"})");
-    QVERIFY(QFile::link(QStringLiteral("en/translation.json"),
-        root + QStringLiteral("/locales/database_to_gui.json")));
-    QCOMPARE(CTranslationHandler(root).databaseToGuiMap().size(), 1);
-}
 
 QTEST_APPLESS_MAIN(TranslationTest)
 #include "TranslationTest.moc"
