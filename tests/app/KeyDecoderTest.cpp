@@ -1,9 +1,9 @@
 // The keys that typed bytes make: every byte, and the end of input, after every beginning of a
 // sequence.
 #include "app/KeyDecoder.h"
+#include "tests/support/Rows.h"
 
 #include <QHash>
-#include <QtTest>
 
 namespace {
 
@@ -31,24 +31,19 @@ class KeyDecoderTest : public QObject {
 private slots:
     void decodes_data()
     {
-        QTest::addColumn<QByteArray>("begun");
-        QTest::addColumn<Keys>("keys");
-        QTest::addColumn<int>("otherwise");
+        const Rows<QByteArray, Keys, int> row("begun", "keys", "otherwise");
         const Keys plain { { '\n', Qt::Key_Return }, { 127, Qt::Key_Backspace } };
         Keys first = plain;
         first.insert(27, none);
         Keys second = plain;
         second.insert(27, Qt::Key_Escape);
         second.insert('[', none);
-        QTest::newRow("first byte") << QByteArray() << first << itself;
-        QTest::newRow("ESC") << QByteArray("\x1b") << second << itself;
-        QTest::newRow("ESC [") << QByteArray("\x1b[") << arrows << int(Qt::Key_unknown);
-        QTest::newRow("ESC [ 5") << QByteArray("\x1b[5") << arrowsAnd(Qt::Key_PageUp)
-                                 << int(Qt::Key_unknown);
-        QTest::newRow("ESC [ 6") << QByteArray("\x1b[6") << arrowsAnd(Qt::Key_PageDown)
-                                 << int(Qt::Key_unknown);
-        QTest::newRow("ESC [ 5 6")
-            << QByteArray("\x1b[56") << arrowsAnd(Qt::Key_PageDown) << int(Qt::Key_unknown);
+        row("first byte", "", first, itself);
+        row("ESC", "\x1b", second, itself);
+        row("ESC [", "\x1b[", arrows, Qt::Key_unknown);
+        row("ESC [ 5", "\x1b[5", arrowsAnd(Qt::Key_PageUp), Qt::Key_unknown);
+        row("ESC [ 6", "\x1b[6", arrowsAnd(Qt::Key_PageDown), Qt::Key_unknown);
+        row("ESC [ 5 6", "\x1b[56", arrowsAnd(Qt::Key_PageDown), Qt::Key_unknown);
     }
 
     void decodes()

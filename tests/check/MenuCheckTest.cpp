@@ -51,11 +51,18 @@ class MenuCheckTest : public QObject {
     QString root() const { return QStringLiteral("--web-root=") + device.paths().webRoot; }
     QString tool() const { return QStringLiteral("--tool=") + device.paths().backendTool; }
     const QString tree = QStringLiteral("--tree");
+    const QString demo = QStringLiteral("--web-root=" DEMO_ROOT);
 
     static QByteArray run(const QStringList &arguments)
     {
         const ProgramResult result = runProgram(QStringLiteral(CHECKER), arguments);
         return QByteArray::number(result.exitStatus) + ' ' + result.output;
+    }
+
+    static bool start(PtySession &session, const QStringList &arguments, int columns)
+    {
+        session.setStandardError(QStringLiteral("/dev/tty"));
+        return session.start(QStringLiteral(CHECKER), arguments, 24, columns);
     }
 
 private slots:
@@ -64,21 +71,19 @@ private slots:
 
     void findsFaults_data()
     {
-        QTest::addColumn<QString>("problems");
-        QTest::addColumn<QString>("says");
-        QTest::addColumn<QString>("screens");
-        QTest::addColumn<QString>("answers");
+        const Rows<QString, QString, QString, QString> row(
+            "problems", "says", "screens", "answers");
         QFile file(QStringLiteral(FAULTS));
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QString text = QString::fromUtf8(file.readAll());
         helpers = text.section(QStringLiteral("```"), 1, 1).mid(2); // without the fence's "js"
-        const QRegularExpression row(QStringLiteral("^\\| (?!fault|---)"));
-        for (const QString &line : text.split(QLatin1Char('\n')).filter(row)) {
+        const QRegularExpression fault(QStringLiteral("^\\| (?!fault|---)"));
+        for (const QString &line : text.split(QLatin1Char('\n')).filter(fault)) {
             const QStringList cells = line.split(QStringLiteral(" |"));
             const auto cell = [&cells](int i) {
-                return cells.value(i).trimmed().remove(QLatin1Char('`'));
+                return cells.value(i).trimmed().remove(QLatin1Char('`')).toUtf8();
             };
-            QTest::newRow(cells[0].mid(2).toUtf8()) << cell(1) << cell(2) << cell(3) << cell(4);
+            row(cells[0].mid(2).toUtf8(), cell(1), cell(2), cell(3), cell(4));
         }
     }
     void findsFaults()
@@ -170,7 +175,6 @@ private slots:
 
     void runsAsProgram()
     {
-        const QString demo = QStringLiteral("--web-root=" DEMO_ROOT);
         QCOMPARE(run({ demo }), QByteArray("0 "));
         QVERIFY(run({ QStringLiteral("--version") }).startsWith("0 dravikon-menu-check "));
         QVERIFY(run({ demo, tree }).contains("\n             *  Prewarning in percent\n"));
@@ -178,8 +182,7 @@ private slots:
                 + run({ demo, QStringLiteral("--tool=x") }),
             QByteArray("2 2 2 "));
 
-        device.setScreens("[{css: 'r', screens: [{css: 'a'}]},"
-                          "{css: 'a', 'ajax-read': 'r', screens: [{i18n: 'smile'}]}]");
+        device.setScreens(QByteArray(oneField).replace("{i18n: 'a'}", "{i18n: 'smile'}"));
         QCOMPARE(run({ root() }).left(19) + run({ root(), tree }),
             QByteArray("1 warning: a: A > a0 ->  A\n +   -  a?\n"));
         QVERIFY(QFile::remove(device.paths().settingsScript));
@@ -199,16 +202,12 @@ private slots:
     void findsNothingOnDemo()
     {
         const QTemporaryDir state;
-        const QString web = QStringLiteral(DEMO_ROOT);
-        QCOMPARE(makeSimulatedDevice(state.path(), QStringLiteral(DEMO), DevicePaths { web },
-                     QStringLiteral(DEMO_VALUES), {}),
+        QCOMPARE(makeSimulatedDevice(state.path(), QStringLiteral(DEMO),
+                     DevicePaths { QStringLiteral(DEMO_ROOT) }, QStringLiteral(DEMO_VALUES), {}),
             QString());
         PtySession session;
-        session.setStandardError(QStringLiteral("/dev/tty"));
-        QVERIFY(session.start(QStringLiteral(CHECKER),
-            { QStringLiteral("--web-root=") + web, QStringLiteral("--device"),
-                QStringLiteral("--tool=") + simulatedTool(state.path()) },
-            24, 80));
+        const QString tool = QStringLiteral("--tool=") + simulatedTool(state.path());
+        QVERIFY(start(session, { demo, QStringLiteral("--device"), tool }, 80));
         QCOMPARE(session.waitForExit(), (ExitStatus { ExitStatus::Exited, 0 }));
         // The progress is gone; what is left are the slowest five calls.
         QVERIFY(session.terminal().row(0).contains(QStringLiteral(" calls in ")));
@@ -222,9 +221,7 @@ private slots:
         device.setTool("echo $$ > \"${0%/*}/pid\"; exec sleep 60");
         QFile pid(device.paths().webRoot + QStringLiteral("/pid"));
         PtySession session;
-        session.setStandardError(QStringLiteral("/dev/tty"));
-        QVERIFY(session.start(
-            QStringLiteral(CHECKER), { root(), QStringLiteral("--device"), tool() }, 24, 30));
+        QVERIFY(start(session, { root(), QStringLiteral("--device"), tool() }, 30));
         QVERIFY(session.waitForText(QStringLiteral("1 of 3: get_menu_electronic_s")));
         QCOMPARE(session.terminal().row(1), QString());
         QVERIFY(
