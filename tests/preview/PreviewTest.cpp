@@ -47,6 +47,28 @@ class PreviewTest : public QObject {
         return commitValue(state, menu, 0);
     }
 
+    static QByteArray shellOutput(const QString &command)
+    {
+        return runProgram(QStringLiteral("/bin/bash"), { QStringLiteral("-c"), command }).output;
+    }
+
+    static QStringList wordsOf(const char *words)
+    {
+        return QString::fromUtf8(words).split(QLatin1Char(' '));
+    }
+
+    static QByteArray read(const QVariant &state, const char *words)
+    {
+        return deviceJson(readValues(state, wordsOf(words)));
+    }
+
+    // The problem; null when the device could be made.
+    QString make(const QTemporaryDir &directory, const DeviceWishes &wishes = {})
+    {
+        return makeSimulatedDevice(
+            directory.path(), QStringLiteral(PREVIEW), files.paths(), {}, wishes);
+    }
+
     void playScreen(TreeViewItemHandler &menu, TreeViewItem &root, TreeViewItem &screen)
     {
         const auto open = [&] {
@@ -127,9 +149,7 @@ private slots:
         valueCount = changeCount = 0;
         files.setScript(script);
         const QTemporaryDir directory;
-        QCOMPARE(makeSimulatedDevice(
-                     directory.path(), QStringLiteral(PREVIEW), files.paths(), {}, { 3, 2, true }),
-            QString());
+        QCOMPARE(make(directory, { 3, 2, true }), QString());
         DevicePaths paths = files.paths();
         paths.backendTool = simulatedTool(directory.path());
         TreeViewItemHandler menu(paths);
@@ -165,33 +185,25 @@ private slots:
             field('edit', { validation: 'C1', range: [0, 9] }), field('label')])]))");
         QVariant state = deviceFromMenu(files.paths(), {}, {});
         const QVariant before = state;
-        const QStringList words { QStringLiteral("set"), QStringLiteral("p") };
-        QCOMPARE(writeValues(state, words, parseJson(values.toUtf8())->toList()), isAccepted);
+        const QVariantList written = parseJson(values.toUtf8())->toList();
+        QCOMPARE(writeValues(state, wordsOf("set p"), written), isAccepted);
         QCOMPARE(state == before, !isAccepted || values.startsWith(QLatin1String("[false")));
     }
 
     void keepsWhatIsKnown()
     {
-        const auto read = [](const QVariant &state, const QString &words) {
-            return deviceJson(readValues(state, words.split(QLatin1Char(' '))));
-        };
         const QByteArray definition = QByteArray(helpers) + R"(define([to('tanks')],
             [list('tanks', 'compBtn'), page('tanksModifyDo', fields), setup]))";
-        const QString tank = QStringLiteral("get tanksModifyDo 4");
         files.setScript("var fields = [field('edit', {validation: 'C5'})];" + definition);
         QVariant state = deviceFromMenu(files.paths(), {}, { 5, {}, true });
-        QVERIFY(writeValues(state,
-            QStringList {
-                QStringLiteral("set"), QStringLiteral("tanksModifyDo"), QStringLiteral("4") },
-            { QStringLiteral("known") }));
+        QVERIFY(writeValues(state, wordsOf("set tanksModifyDo 4"), { QStringLiteral("known") }));
         state = deviceFromMenu(files.paths(), state, {});
-        QCOMPARE(read(state, tank), QByteArray(R"(["known"])"));
+        QCOMPARE(read(state, "get tanksModifyDo 4"), QByteArray(R"(["known"])"));
         QCOMPARE(valueAt(state, { QStringLiteral("sealClosed") }), QVariant(false));
-        QCOMPARE(read(state, QStringLiteral("get btnParameterTruckSetup")),
-            QByteArray(R"(["value 1",5])"));
+        QCOMPARE(read(state, "get btnParameterTruckSetup"), QByteArray(R"(["value 1",5])"));
         files.setScript("var fields = [{}, {}];" + definition);
         state = deviceFromMenu(files.paths(), state, { {}, {}, false });
-        QCOMPARE(read(state, tank), QByteArray(R"(["value 1","value 2"])"));
+        QCOMPARE(read(state, "get tanksModifyDo 4"), QByteArray(R"(["value 1","value 2"])"));
         QCOMPARE(valueAt(state, { QStringLiteral("sealClosed") }), QVariant(true));
     }
 
@@ -202,9 +214,7 @@ private slots:
         for (const char *name : { "state.json", "DBusController" }) {
             const QString path = directory.filePath(QLatin1String(name));
             QVERIFY(QFile::copy(files.paths().settingsScript, path));
-            QVERIFY(makeSimulatedDevice(
-                directory.path(), QStringLiteral(PREVIEW), files.paths(), {}, {})
-                        .contains(path));
+            QVERIFY(make(directory).contains(path));
             QVERIFY(QFileInfo(path).isFile() && QFileInfo(path).size() == 0);
             QFile::remove(path);
         }
@@ -217,19 +227,15 @@ private slots:
         QVERIFY(QFile::copy(QStringLiteral(EXAMPLE_TOOL), tool));
         QVERIFY(QFile::setPermissions(tool, QFile::ReadOwner | QFile::ExeOwner));
         const auto ask = [&](const QString &words) {
-            return runProgram(QStringLiteral("/bin/sh"),
-                { QStringLiteral("-c"), tool + QLatin1Char(' ') + words })
-                .output;
+            return shellOutput(tool + QLatin1Char(' ') + words);
         };
-        const QString diagnose = QStringLiteral("get_menu_service_diagnose_%1_interfaces");
-        for (const QString &words : { QStringLiteral("get_menu truck_setup"),
-                 QStringLiteral("get_menu_electronic_seal_status"),
-                 diagnose.arg(QStringLiteral("spd")), diagnose.arg(QStringLiteral("io")),
-                 diagnose.arg(QStringLiteral("wetleg")), diagnose.arg(QStringLiteral("as")),
-                 diagnose.arg(QStringLiteral("tag")) + QStringLiteral(" 0"),
-                 diagnose.arg(QStringLiteral("tag")) + QStringLiteral(" 1") }) {
+        for (const char *call : { " truck_setup", "_electronic_seal_status",
+                 "_service_diagnose_spd_interfaces", "_service_diagnose_io_interfaces",
+                 "_service_diagnose_wetleg_interfaces", "_service_diagnose_as_interfaces",
+                 "_service_diagnose_tag_interfaces 0", "_service_diagnose_tag_interfaces 1" }) {
+            const QString words = QStringLiteral("get_menu") + QLatin1String(call);
             const QByteArray list = ask(words);
-            QVERIFY2(!parseJson(list).value_or(QVariant()).toList().isEmpty(), qPrintable(words));
+            QVERIFY2(!parseJson(list).value_or(QVariant()).toList().isEmpty(), call);
             QCOMPARE(ask(QStringLiteral("'%1'").arg(words)), list);
         }
         QVERIFY(!ask(QStringLiteral("--version")).isEmpty());
@@ -243,12 +249,9 @@ private slots:
         QFile::remove(files.paths().settingsScript);
         const auto messages = [&] {
             // As luit does it, the program gets its name without the directory.
-            return runProgram(QStringLiteral("/bin/bash"),
-                { QStringLiteral("-c"),
-                    QStringLiteral("exec -a dravikon-preview " PREVIEW
-                                   " --idle 1 --web-root \"$0\" 2>&1 > /dev/null"),
-                    files.paths().webRoot })
-                .output;
+            return shellOutput(QStringLiteral(
+                "exec -a dravikon-preview " PREVIEW " --idle 1 --web-root '%1' 2>&1 > /dev/null")
+                                   .arg(files.paths().webRoot));
         };
         QVERIFY(messages().startsWith("dravikon-preview: cannot load "));
         files.setTranslations("{}");
