@@ -32,14 +32,12 @@ private slots:
     void decodes_data()
     {
         const Rows<QByteArray, Keys, int> row("begun", "keys", "otherwise");
-        const Keys plain { { '\n', Qt::Key_Return }, { 127, Qt::Key_Backspace } };
-        Keys first = plain;
-        first.insert(27, none);
-        Keys second = plain;
-        second.insert(27, Qt::Key_Escape);
-        second.insert('[', none);
-        row("first byte", "", first, itself);
-        row("ESC", "\x1b", second, itself);
+        row("first byte", "",
+            { { '\n', Qt::Key_Return }, { 127, Qt::Key_Backspace }, { 27, none } }, itself);
+        row("ESC", "\x1b",
+            { { '\n', Qt::Key_Return }, { 127, Qt::Key_Backspace }, { 27, Qt::Key_Escape },
+                { '[', none } },
+            itself);
         row("ESC [", "\x1b[", arrows, Qt::Key_unknown);
         row("ESC [ 5", "\x1b[5", arrowsAnd(Qt::Key_PageUp), Qt::Key_unknown);
         row("ESC [ 6", "\x1b[6", arrowsAnd(Qt::Key_PageDown), Qt::Key_unknown);
