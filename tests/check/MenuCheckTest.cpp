@@ -100,10 +100,7 @@ private slots:
             commands += '\'' + text.key().toUtf8() + "') cat <<'END'\n"
                 + text.value().toString().toUtf8() + "\nEND\n;;\n";
         device.setTool(commands + "esac");
-        device.setScript((helpers
-            + QStringLiteral("\nvar Settings = { setupStructureVersion: 1, settings: %1 };")
-                  .arg(screens))
-                             .toUtf8());
+        device.setScreens(screens.toUtf8(), helpers.toUtf8());
         const QStringList lines = answers.isEmpty() ? problems() : problemsOnDevice();
         const QString report = lines.join(QLatin1Char('\n'));
         QTEST(namesOf(lines), "problems");

@@ -29,9 +29,9 @@ void FakeDevice::setScript(const QByteArray &script)
     writeFile(devicePaths.settingsScript, script);
 }
 
-void FakeDevice::setScreens(const QByteArray &screens)
+void FakeDevice::setScreens(const QByteArray &screens, const QByteArray &helpers)
 {
-    setScript("var Settings = { setupStructureVersion: 7, settings: " + screens + " };");
+    setScript(helpers + "var Settings = { setupStructureVersion: 7, settings: " + screens + " };");
 }
 
 void FakeDevice::setTool(const QByteArray &commands)

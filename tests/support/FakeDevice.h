@@ -14,8 +14,9 @@ public:
     /// The text of the settings script.
     void setScript(const QByteArray &script);
 
-    /// The settings script with a global `Settings` whose array of screens is `screens`.
-    void setScreens(const QByteArray &screens);
+    /// The settings script with a global `Settings` whose array of screens is `screens`, after the
+    /// definitions `helpers`.
+    void setScreens(const QByteArray &screens, const QByteArray &helpers = {});
 
     /// What the tool does behind noting its call: shell commands; "$*" are its arguments.
     void setTool(const QByteArray &commands);
