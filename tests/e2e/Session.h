@@ -17,8 +17,8 @@ const QByteArray screens =
 {css:'many', screens:[{i18n:'a'},{i18n:'b'},{i18n:'c'},{i18n:'d'}]}])";
 const QByteArray script = "var Settings = { setupStructureVersion: 7, settings: " + screens + "};";
 
-/// Never ends by itself, nor by SIGINT or SIGTERM; leaves its pid in a file.
-const QByteArray hang = "echo $$ > \"${0%/*}/pid\"; trap '' INT TERM; exec sleep 100";
+/// Never ends by itself, nor by SIGINT or SIGTERM.
+const QByteArray hang = "trap '' INT TERM; sleep 100; true";
 
 inline QByteArray toolThatReadsBy(const QByteArray &command)
 {
@@ -44,10 +44,14 @@ public:
     bool start(int idleMs = 180000) { return run(console, 24, 80, idleMs) && hasTitle(); }
 
     /// Starts the console through another program, which gets it as its last arguments.
-    bool startBy(const QStringList &command)
+    bool startBy(const QByteArrayList &command)
     {
+        QStringList words;
+        for (const QByteArray &word : command.mid(1))
+            words += QString::fromLocal8Bit(word);
+        words += console;
         return PtySession::start(
-            command.first(), command.mid(1) + QStringList(console) + arguments(), 24, 80);
+            QString::fromLocal8Bit(command.first()), words + arguments(), 24, 80);
     }
 
     bool isTerminalRestored() const
