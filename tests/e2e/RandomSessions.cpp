@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QRandomGenerator>
+#include <QSize>
 
 #include <csignal>
 #include <cstdio>
@@ -39,13 +40,8 @@ const QByteArrayList keys = { Key::enter, Key::enter, Key::enter, Key::up, Key::
     Key::down, Key::left, Key::right, Key::pageUp, Key::pageDown, Key::escape, Key::backspace,
     Key::redraw };
 
-struct TerminalSize {
-    int columns;
-    int rows;
-};
-
 // Sizes that chance hardly meets.
-const TerminalSize rareSizes[] = { { 1, 1 }, { 2, 2 }, { 10, 3 }, { 500, 200 } };
+const QSize rareSizes[] = { { 1, 1 }, { 2, 2 }, { 10, 3 }, { 500, 200 } };
 
 class Player {
 public:
@@ -107,11 +103,10 @@ private:
         return excluded.contains(byte) ? QByteArray("x") : QByteArray(1, byte);
     }
 
-    void resize(const TerminalSize &size)
+    void resize(const QSize &newSize)
     {
-        rows = size.rows;
-        columns = size.columns;
-        session.resize(rows, columns);
+        size = newSize;
+        session.resize(size.height(), size.width());
     }
 
     void setFault(const QByteArray &fault)
@@ -127,11 +122,12 @@ private:
     bool isSound()
     {
         const TerminalEmulator &terminal = session.terminal();
-        const QString header = QStringLiteral("Quenstadel").left(columns > 10 ? 10 : columns - 1);
-        const QString title = QStringLiteral("Dravikon ver").left(columns - 1).trimmed();
+        const QString header =
+            QStringLiteral("Quenstadel").left(size.width() > 10 ? 10 : size.width() - 1);
+        const QString title = QStringLiteral("Dravikon ver").left(size.width() - 1).trimmed();
         if (!session.waitFor([&] {
-                return (rows == 1 || terminal.row(0) == header)
-                    && terminal.row(rows - 1).startsWith(title);
+                return (size.height() == 1 || terminal.row(0) == header)
+                    && terminal.row(size.height() - 1).startsWith(title);
             }))
             return fails("loses its bars");
         return terminal.answerBack().isEmpty() || fails("makes the terminal answer");
@@ -162,7 +158,7 @@ private:
     QStringList screen() const
     {
         QStringList lines = session.terminal().screen();
-        for (int row = 0; row < rows; ++row)
+        for (int row = 0; row < size.height(); ++row)
             lines += session.terminal().backgrounds(row);
         return lines;
     }
@@ -179,8 +175,7 @@ private:
     QRandomGenerator random;
     uint nextRareSize;
     DeviceSession session;
-    int rows = 24;
-    int columns = 80;
+    QSize size { 80, 24 };
     bool isFaulty = false;
 };
 
