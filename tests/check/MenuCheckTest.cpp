@@ -51,7 +51,7 @@ class MenuCheckTest : public QObject {
     QString root() const { return QStringLiteral("--web-root=") + device.paths().webRoot; }
     QString tool() const { return QStringLiteral("--tool=") + device.paths().backendTool; }
     const QString tree = QStringLiteral("--tree");
-    const QString demo = QStringLiteral("--web-root=" DEMO_ROOT);
+    const QString demo = QStringLiteral("--web-root=" SOURCES "/demo/web");
 
     static QByteArray run(const QStringList &arguments)
     {
@@ -73,7 +73,7 @@ private slots:
     {
         const Rows<QString, QString, QString, QString> row(
             "problems", "says", "screens", "answers");
-        QFile file(QStringLiteral(FAULTS));
+        QFile file(QStringLiteral(SOURCES "/tests/check/faults.md"));
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QString text = QString::fromUtf8(file.readAll());
         helpers = text.section(QStringLiteral("```"), 1, 1).mid(2); // without the fence's "js"
@@ -200,7 +200,8 @@ private slots:
     {
         const QTemporaryDir state;
         QCOMPARE(makeSimulatedDevice(state.path(), QStringLiteral(DEMO),
-                     DevicePaths { QStringLiteral(DEMO_ROOT) }, QStringLiteral(DEMO_VALUES), {}),
+                     DevicePaths { QStringLiteral(SOURCES "/demo/web") },
+                     QStringLiteral(SOURCES "/demo/device.json"), {}),
             QString());
         PtySession session;
         const QString tool = QStringLiteral("--tool=") + simulatedTool(state.path());

@@ -55,7 +55,7 @@ public:
     /// False, with a message, as soon as the console does not do as it should.
     bool play(int steps)
     {
-        QFile script(QStringLiteral(DEMO_SCRIPT));
+        QFile script(QStringLiteral(SOURCES "/demo/web/scripts/settings.js"));
         if (!script.open(QIODevice::ReadOnly))
             return fails("cannot read the demo's script");
         session.device.setScript(script.readAll());

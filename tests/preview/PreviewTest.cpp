@@ -103,7 +103,7 @@ private slots:
     void playsEveryScreen_data()
     {
         const Rows<QByteArray, int, int> row("script", "values", "changes");
-        QFile demo(QStringLiteral(DEMO_SCRIPT));
+        QFile demo(QStringLiteral(SOURCES "/demo/web/scripts/settings.js"));
         QVERIFY(demo.open(QIODevice::ReadOnly));
         row("demo", demo.readAll(), 364, 152);
         const auto add = [&row](const char *name, const char *define, int values, int changes) {
@@ -224,7 +224,7 @@ private slots:
     {
         const QTemporaryDir directory;
         const QString tool = directory.filePath(QStringLiteral("DBusController"));
-        QVERIFY(QFile::copy(QStringLiteral(EXAMPLE_TOOL), tool));
+        QVERIFY(QFile::copy(QStringLiteral(SOURCES "/packaging/examples/DBusController"), tool));
         QVERIFY(QFile::setPermissions(tool, QFile::ReadOwner | QFile::ExeOwner));
         const auto ask = [&](const QString &words) {
             return shellOutput(tool + QLatin1Char(' ') + words);
