@@ -113,7 +113,7 @@ private slots:
     {
         QFETCH(int, number);
         Session session;
-        // In an edit field the text cursor stands in colours.
+        // In an edit field the text cursor is visible, within colours.
         QVERIFY(session.start() && session.press(keysToEditField));
         session.mark();
         session.signal(number);

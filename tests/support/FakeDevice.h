@@ -18,7 +18,7 @@ public:
     /// definitions `helpers`.
     void setScreens(const QByteArray &screens, const QByteArray &helpers = {});
 
-    /// What the tool does behind noting its call: shell commands; "$*" are its arguments.
+    /// What the tool does after it has noted its call: shell commands; "$*" are its arguments.
     void setTool(const QByteArray &commands);
 
     /// The English translation table.

@@ -9,6 +9,6 @@ struct ProgramResult {
     QByteArray output; ///< what it printed on standard output
 };
 
-/// Runs `program` with `arguments` and nothing to read. QProcess would tell wrong statuses of
+/// Runs `program` with `arguments` and nothing to read. QProcess reports wrong statuses of
 /// programs that run under an emulator.
 ProgramResult runProgram(const QString &program, const QStringList &arguments);
