@@ -27,10 +27,7 @@ QString whyNoArray(const ToolCall &call)
     JsonFault fault;
     if (valueOf(call, &fault))
         return QStringLiteral("printed JSON that is no array; put the values between [ and ]");
-    return QStringLiteral("printed no JSON, line %1, column %2: %3")
-        .arg(fault.line)
-        .arg(fault.column)
-        .arg(fault.reason);
+    return QStringLiteral("printed no JSON, ") + fault.text();
 }
 
 // What concerns any call, also one that answers in plain text.

@@ -23,10 +23,7 @@ QString contentFault(const QString &path)
     JsonFault fault;
     if (parseJson(json, &fault))
         return QStringLiteral("it is no JSON object");
-    return QStringLiteral("line %1, column %2: %3")
-        .arg(fault.line)
-        .arg(fault.column)
-        .arg(fault.reason);
+    return fault.text();
 }
 
 } // namespace

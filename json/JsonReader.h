@@ -12,6 +12,12 @@ struct JsonFault {
     int line = 0; ///< counted from 1
     int column = 0; ///< in characters, counted from 1
     QString reason;
+
+    /// The fault as a report shows it.
+    QString text() const
+    {
+        return QStringLiteral("line %1, column %2: %3").arg(line).arg(column).arg(reason);
+    }
 };
 
 /// The value that `json` holds: any JSON value at the top level. Integers without fraction or
