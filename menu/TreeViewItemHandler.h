@@ -40,7 +40,6 @@ public:
     ScriptHelper &scriptHelper() { return script; }
     const QString &setupStructureVersion() const { return script.setupStructureVersion(); }
     const PropertyNames &names() const { return propertyNames; }
-    int accessLevel() const { return currentAccessLevel; }
     /// Replaces `updateAccessLevel` where there is no backend to ask.
     void setAccessLevel(int level) { currentAccessLevel = level; }
 

@@ -61,16 +61,6 @@ private slots:
         QCOMPARE(device.takeCalls(), QStringList());
     }
 
-    void asksForTheSeal()
-    {
-        for (const char *answer :
-            { "[\"i18n_wm_false\"]", "[\"i18n_wm_true\"]", "[false]", "[]" }) {
-            device.setTool(QByteArray("echo '") + answer + '\'');
-            handler.updateAccessLevel();
-            QCOMPARE(handler.accessLevel(), QByteArray(answer).contains("wm_false") ? 6 : 4);
-        }
-    }
-
     void killsWhatHangs_data()
     {
         const Rows<QByteArray, bool> row("tool", "hangs");
