@@ -14,7 +14,8 @@ for preset in asan fuzz; do
     cmake --preset "$preset" --log-level=WARNING
     cmake --build --preset "$preset"
 done
-build/asan/tests/e2e/random-sessions "$sessions" "$keys" "$seed"
+DRAVIKON_TEST_SESSIONS=$sessions DRAVIKON_TEST_KEYS=$keys DRAVIKON_TEST_SEED=$seed \
+    build/asan/tests/e2e/random-sessions
 cmake --preset dev --log-level=WARNING
 cmake --build --preset dev --target ending-test
 DRAVIKON_TEST_ENDINGS=$((2 * sessions)) build/dev/tests/e2e/ending-test toolIsStarting

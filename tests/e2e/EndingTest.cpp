@@ -44,17 +44,6 @@ private slots:
         qputenv("ASAN_OPTIONS", "handle_segv=0:handle_sigbus=0:handle_sigfpe=0:disable_coredump=1");
     }
 
-    void idleEnd()
-    {
-        Session session;
-        QElapsedTimer timer;
-        timer.start();
-        QVERIFY(session.run(console, 24, 80, 300));
-        QCOMPARE(session.waitForExit(), endedWell);
-        QVERIFY(timer.elapsed() >= 300 && session.bytesSinceMark().contains("Dravikon ver"));
-        QVERIFY(session.isTerminalRestored());
-    }
-
     void endOfInput()
     {
         const Session session;

@@ -18,7 +18,6 @@ private slots:
             "Tavrolink-Dravikon-Version: " + QByteArray(consoleVersion.data()) + '\n';
         const Rows<QString, QByteArray> row("words", "output");
         row("version", "--version", version);
-        row("version and an empty word", "--version ", version);
         row("help", "-h", usage);
         row("unknown word", "--Version", usage);
         row("version as the second word", "-x --version", usage);
@@ -42,14 +41,8 @@ private slots:
             R"(scriptValues.isError()) "message" "Parse error")");
         row("thrown error", script + "\nthrow new Error('boo')", goodTool, "[]",
             R"(isError()) "lineNumber" "8")");
-        row("thrown number", script + "\nthrow 5", goodTool, "", "line 8");
-        row("settings without screens", "var Settings = { settings: 5 };", goodTool, "{}",
-            "no array of screens");
         row("control characters", script, R"(printf 'x\033[2J\377\000[')",
             "{\"truck\":", "parsing failed. Input was:  \"x");
-        row("true for every answer", script, "echo true", "{\"truck\":[]}", "");
-        row("crash of the tool", script, "kill -SEGV $$", "\"\"",
-            "parsing failed. Input was:  \"\"");
         row("flood of errors", script, "head -c 1000000 /dev/zero >&2", "",
             "Loading translation map for \"en\" failed");
     }
@@ -108,8 +101,6 @@ private slots:
     {
         const Rows<QByteArray, QByteArray, QString> row("tool", "keys", "call");
         const QByteArray edit = keysToEditField.join();
-        row("there and back", goodTool, Key::down + Key::down + Key::up + Key::up + "\n",
-            "get|truck");
         row("200 keys", goodTool, (Key::down + Key::up).repeated(100) + "\n", "get|truck");
         row("while the tool runs", "sleep 0.1; " + goodTool, edit + "Eva\n",
             R"(set|truck|["EmmaEva",true])");
