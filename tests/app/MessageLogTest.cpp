@@ -87,12 +87,18 @@ private slots:
         installMessageLog(path);
         dropsWhatDoesNotFit(daemon);
         close(daemon);
+        qWarning("to nobody");
+        // The reason of a sudden end goes to the terminal.
+        qInstallMessageHandler(nullptr)(QtFatalMsg, {}, QStringLiteral("fatal"));
+        fcntl(master, F_SETFL, O_NONBLOCK);
+        QVERIFY(waitingLines(master).join().contains("fatal"));
+        installMessageLog(path);
         daemon = logDaemon(path);
         qWarning("to the new daemon");
         // "<12>Nov  1 12:34:56 program[123]: text"
         const QRegularExpression form(QStringLiteral(
             R"(^<12>[A-Z][a-z]{2} [ 123]\d \d\d:\d\d:\d\d [\w-]+\[\d+\]: to the new daemon$)"));
-        const QByteArray line = waitingLines(daemon).join('\n');
+        const QByteArray line = waitingLines(daemon).value(1);
         QVERIFY2(form.match(QString::fromLatin1(line)).hasMatch(), line.constData());
     }
 };

@@ -53,6 +53,7 @@ private slots:
                 "failed \""
                     + device.paths().webRoot.toUtf8() + "/locales/en/translation.json\"");
         CTranslationHandler handler(device.paths().webRoot);
+        QCOMPARE(handler.loadTranslationMap(QStringLiteral("en")), dateFormat.isValid());
         QCOMPARE(loadedFormat(handler), dateFormat);
         // What was loaded is kept, what failed is tried again.
         device.setTranslations(R"({"dateformat": "D"})");
