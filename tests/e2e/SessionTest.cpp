@@ -81,6 +81,18 @@ private slots:
         QCOMPARE(session.waitForExit(), endedWell);
     }
 
+    void terminalWithoutSize()
+    {
+        Session session;
+        QVERIFY(session.start() && session.press(keysToDiagnoseScreen) && session.waitForRest());
+        const QStringList before = session.terminal().screen();
+        session.mark();
+        session.setSize(0, 0);
+        QVERIFY(session.waitFor([&] { return session.bytesSinceMark().contains("Drav"); }));
+        QVERIFY(session.waitForRest());
+        QCOMPARE(session.terminal().screen(), before);
+    }
+
     void resizeStorm()
     {
         Session session;
@@ -126,19 +138,12 @@ private slots:
                 [&] { return (calls += session.device.takeCalls()).contains(call); }));
     }
 
-    void keyInPieces_data()
-    {
-        const Rows<bool> row("blocking");
-        row("blocking input", true);
-        row("non-blocking input", false);
-    }
-
     void keyInPieces()
     {
-        QFETCH(bool, blocking);
         Session session;
         QVERIFY(session.start());
-        session.setInputBlocking(blocking);
+        // As a program before may have left it.
+        session.setInputBlocking(false);
         for (const QByteArray &key : { Key::down, Key::pageUp, Key::escape }) {
             for (int split = 1; split < key.size(); ++split) {
                 QVERIFY(session.press({ key.left(split) }));
