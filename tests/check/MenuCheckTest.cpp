@@ -226,9 +226,9 @@ private slots:
             session.waitFor([&pid] { return pid.size() > 1; }) && pid.open(QIODevice::ReadOnly));
         QVERIFY(session.send("\x03"));
         QCOMPARE(session.waitForExit(), (ExitStatus { ExitStatus::Killed, SIGINT }));
-        QFile tool(QStringLiteral("/proc/%1/cmdline").arg(pid.readAll().trimmed().toInt()));
-        QVERIFY(session.waitFor(
-            [&tool] { return !tool.open(QIODevice::ReadOnly) || tool.readAll().isEmpty(); }));
+        const QString program =
+            QStringLiteral("/proc/%1/exe").arg(QString::fromLatin1(pid.readAll().trimmed()));
+        QVERIFY(session.waitFor([&program] { return !QFileInfo::exists(program); }));
     }
 };
 
