@@ -8,9 +8,8 @@
 #include "tests/support/Rows.h"
 #include "tests/support/RunProgram.h"
 
-static const char translations[] = R"({"a": "A", "b": "B", "r": "R", "smile": "a☺", "k": "K",
-    "compartment": "C", "btnParameterTruckSetup": "T",
-    "truck_setup_compartments": "N",
+static const char translations[] = R"({"a": "A", "b": "B", "r": "R", "k": "K", "smile": "a☺",
+    "compartment": "C", "btnParameterTruckSetup": "T", "truck_setup_compartments": "N",
     "wide": "0123456789012345678901234567890123456789012345678901"})";
 
 static const char oneField[] = "[{css: 'r', screens: [{css: 'a'}]},"
@@ -38,31 +37,24 @@ class MenuCheckTest : public QObject {
     }
 
     // Severity and name of each.
-    static QString namesOf(const QStringList &problems)
+    static QString namesOf(QStringList lines)
     {
-        QStringList names;
-        for (const QString &problem : problems) {
-            names += problem.section(QLatin1Char(':'), 0, 0) + QLatin1Char(' ')
-                + problem.section(QLatin1Char('['), -1).chopped(1);
-        }
-        return names.join(QLatin1String(", "));
+        const QRegularExpression finding(QStringLiteral(R"(^(\w+): .*\[(.*)\]$)"));
+        return lines.replaceInStrings(finding, QStringLiteral("\\1 \\2")).join(QLatin1String(", "));
     }
 
     QString root() const { return QStringLiteral("--web-root=") + device.paths().webRoot; }
     QString tool() const { return QStringLiteral("--tool=") + device.paths().backendTool; }
     const QString tree = QStringLiteral("--tree");
+    const QString ask = QStringLiteral("--device");
     const QString demo = QStringLiteral("--web-root=" SOURCES "/demo/web");
 
     static QByteArray run(const QStringList &arguments)
     {
-        const ProgramResult result = runProgram(QStringLiteral(CHECKER), arguments);
+        const QStringList shell { QStringLiteral("-c"), QStringLiteral("\"$0\" \"$@\" 2>&1"),
+            QStringLiteral(CHECKER) };
+        const ProgramResult result = runProgram(QStringLiteral("/bin/sh"), shell + arguments);
         return QByteArray::number(result.exitStatus) + ' ' + result.output;
-    }
-
-    static bool start(PtySession &session, const QStringList &arguments, int columns)
-    {
-        session.setStandardError(QStringLiteral("/dev/tty"));
-        return session.start(QStringLiteral(CHECKER), arguments, 24, columns);
     }
 
 private slots:
@@ -71,19 +63,16 @@ private slots:
 
     void findsFaults_data()
     {
-        const Rows<QString, QString, QString, QString> row(
-            "problems", "says", "screens", "answers");
+        Rows<QString, QString, QString, QString>("problems", "says", "screens", "answers");
         QFile file(QStringLiteral(SOURCES "/tests/check/faults.md"));
         QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString text = QString::fromUtf8(file.readAll());
-        helpers = text.section(QStringLiteral("```"), 1, 1).mid(2); // without the fence's "js"
+        const QStringList parts = QString::fromUtf8(file.readAll()).split(QStringLiteral("```"));
+        helpers = parts[1].mid(2); // without the fence's "js"
         const QRegularExpression fault(QStringLiteral("^\\| (?!fault|---)"));
-        for (const QString &line : text.split(QLatin1Char('\n')).filter(fault)) {
-            const QStringList cells = line.split(QStringLiteral(" |"));
-            const auto cell = [&cells](int i) {
-                return cells.value(i).trimmed().remove(QLatin1Char('`')).toUtf8();
-            };
-            row(cells[0].mid(2).toUtf8(), cell(1), cell(2), cell(3), cell(4));
+        const QRegularExpression border(QStringLiteral("[ `]*\\|[ `]*"));
+        for (const QString &line : parts[2].split(QLatin1Char('\n')).filter(fault)) {
+            const QStringList cells = line.split(border);
+            QTest::newRow(qPrintable(cells[1])) << cells[2] << cells[3] << cells[4] << cells[5];
         }
     }
     void findsFaults()
@@ -92,44 +81,41 @@ private slots:
         QFETCH(QString, screens);
         QFETCH(QString, answers);
         QScriptEngine engine;
-        QVariantMap texts = engine.evaluate(helpers + QStringLiteral("; texts(%1)").arg(answers))
-                                .toVariant()
-                                .toMap();
+        const QString printed = QStringLiteral("; printed(%1)").arg(answers);
+        const QVariantMap texts = engine.evaluate(helpers + printed).toVariant().toMap();
         QByteArray commands = "case \"$*\" in\n";
         for (auto text = texts.cbegin(); text != texts.cend(); ++text)
-            commands += '\'' + text.key().toUtf8() + "') cat <<'END'\n"
-                + text.value().toString().toUtf8() + "\nEND\n;;\n";
-        device.setTool(commands + "esac");
+            commands += '\'' + text.key().toUtf8() + "') cat <<'END'\n" + text.value().toByteArray()
+                + "\nEND\n;;\n";
+        device.setTool(commands + R"(--version) echo 1.0/2;;
+            *_seal_status) echo '["i18n_wm_true"]';;
+            *_interfaces*) echo '[]';; esac)");
         device.setScreens(screens.toUtf8(), helpers.toUtf8());
         const QStringList lines = answers.isEmpty() ? problems() : problemsOnDevice();
         const QString report = lines.join(QLatin1Char('\n'));
         QTEST(namesOf(lines), "problems");
         QVERIFY2(report.contains(says), qPrintable(report));
-        // Each question is asked once, and nothing is written.
+        // Each question is asked once; Level has none, and nothing is written.
         QStringList calls = device.takeCalls();
         QCOMPARE(calls.removeDuplicates(), 0);
-        QCOMPARE(calls.filter(QRegularExpression(QStringLiteral("enable_if|\\["))), QStringList());
+        QVERIFY(calls.filter(QRegularExpression(QStringLiteral("level|enable_if|\\["))).isEmpty());
         QCOMPARE(calls.isEmpty(), answers.isEmpty());
     }
 
     void survivesTools_data()
     {
         const Rows<QByteArray, int, QString> row("commands", "patienceMs", "problems");
-        row("crash", "kill -SEGV $$", BackendTool::patienceMs,
-            "warning no-tool-version, error no-array, error no-array");
-        row("hang", "echo '[1]'; exec sleep 60", 300,
-            "error hanging-call, error hanging-call, error seal-status, error hanging-call");
-        row("missing", "", 0, "error no-tool, error no-tool, error no-tool");
-        row("slow", "[ $1 = r ] && sleep 1.1; echo '[\"i18n_wm_true\"]'", BackendTool::patienceMs,
-            "warning slow-call, warning untranslated");
+        row("crash", "kill -9 $$", 9000, "warning no-tool-version, error no-array, error no-array");
+        row("hang", "sleep 60", 100, "error hanging-call, error hanging-call, error hanging-call");
+        row("not executable", "chmod -x $0", 9000, "error no-tool, error no-tool, error no-tool");
+        row("slow", "[ $1 = r ] && sleep 1.1; echo '[1]'", 9000,
+            "error seal-status, warning slow-call");
     }
     void survivesTools()
     {
         QFETCH(QByteArray, commands);
         QFETCH(int, patienceMs);
         device.setTool(commands);
-        if (commands.isEmpty())
-            QFile::remove(device.paths().backendTool);
         device.setScreens(oneField);
         QTEST(namesOf(problemsOnDevice(patienceMs)), "problems");
     }
@@ -139,22 +125,14 @@ private slots:
         const Rows<QByteArray, QByteArray, QString> row("script", "table", "report");
         const QByteArray good = "Settings = {settings: [{css: 'r'}], setupStructureVersion: 1}";
         row("good", good, "{}", "");
-        row("no version", "Settings = {settings: [{css: 'r'}]}", "{}",
-            "has no \"setupStructureVersion\"");
-        row("no version, allowed", "Settings = {settings: [{css: 'r'}], checkIgnore: 'no-version'}",
-            "{}", "");
-        row("bracket missing", "Settings = {\nsettings: [", "{}",
-            "line 2, column 11: Syntax error");
+        row("no version", "Settings = {settings: [{css: 'r'}]}", "{}", "setupStructureVersion");
+        row("version allowed", "Settings = {settings: [{}], checkIgnore: 'no-version'}", "{}", "");
+        row("bracket", "Settings = {\nsettings: [", "{}", "line 2, column 11: Syntax error");
         row("unknown name", good + ";\nnobody.calls()", "{}", "line 2: ReferenceError");
-        row("late throw", good + "; throw 'late'", "{}", "line 1: late");
         row("no screens", "Settings = {}", "{}", "defines no screens");
-        row("stray comma", good, "{\"a\": \"A\",\n \"\xc3\xa4\": \"B\",}",
-            ": line 2, column 11: Missing a name");
+        row("comma", good, "{\"a\": 1,\n\"\xc3\xa4\": 2,}", "line 2, column 8: Missing a name");
         row("byte order mark", good, "\xef\xbb\xbf{}", "byte order mark");
         row("array", good, "[]", "is no JSON object");
-        row("too deep", good, QByteArray(600, '['),
-            "column 513: A number is too large, or the nesting");
-        row("zero byte", good, QByteArray("{\0}", 3), "line 1, column 2: ");
     }
     void findsFaultsOfFiles()
     {
@@ -162,53 +140,54 @@ private slots:
         QFETCH(QByteArray, table);
         QFETCH(QString, report);
         device.setScript(script);
-        QStringList lines = problems();
+        QString lines = problems().join(QLatin1Char('\n'));
         device.setTranslations(table);
         lines += fileFault(device.paths());
-        lines.removeAll(QString());
-        QCOMPARE(lines.size(), report.isEmpty() ? 0 : 1);
-        QVERIFY2(lines.value(0).contains(report), qPrintable(lines.value(0)));
+        QVERIFY2(report.isEmpty() ? lines.isEmpty() : lines.contains(report), qPrintable(lines));
     }
 
     void runsAsProgram()
     {
         QCOMPARE(run({ demo }), QByteArray("0 "));
         QVERIFY(run({ QStringLiteral("--version") }).startsWith("0 dravikon-menu-check "));
+        QVERIFY(run({ QStringLiteral("--help") }).contains("\nExit status: 0 no problem"));
         QVERIFY(run({ demo, tree }).contains("\n             *  Prewarning in percent\n"));
-        QCOMPARE(run({ demo, QStringLiteral("--bad") }) + run({ demo, QStringLiteral("bad") })
-                + run({ demo, QStringLiteral("--tool=x") }),
-            QByteArray("2 2 2 "));
+        QVERIFY(
+            run({ QStringLiteral("--bad") }).startsWith("2 dravikon-menu-check: Unknown option"));
+        QVERIFY(run({ QStringLiteral("bad") }).startsWith("2 dravikon-menu-check: unexpected bad"));
+        QVERIFY(run({ QStringLiteral("--tool=x") }).startsWith("2 dravikon-menu-check: --tool is"));
 
         device.setScreens(QByteArray(oneField).replace("{i18n: 'a'}", "{i18n: 'smile'}"));
         QCOMPARE(run({ root() }).left(19) + run({ root(), tree }),
             QByteArray("1 warning: a: A > a0 ->  A\n +   -  a?\n"));
         QVERIFY(QFile::remove(device.paths().settingsScript));
-        QCOMPARE(run({ root() }), QByteArray("2 "));
+        QVERIFY(run({ root() }).startsWith("2 dravikon-menu-check: cannot load /"));
     }
 
     void recordsDevice()
     {
-        const QStringList record { root(), tree, QStringLiteral("--device"), tool() };
+        const QStringList record { root(), tree, ask, tool() };
         device.setScreens(oneField);
         device.setTool("echo '[\"i18n_k\"]'");
         QCOMPARE(run(record), "0 ->  A\n +   -  A" + QByteArray(45, ' ') + "K\n");
         device.setTool("[ $1 = r ] || echo '[1]'");
-        QCOMPARE(run(record), QByteArray("1 ->  A\n +   -  A\n"));
+        QVERIFY(run(record).startsWith("1 ->  A\n +   -  A\n<r> printed nothing"));
     }
 
     void findsNothingOnDemo()
     {
         const QTemporaryDir state;
-        QCOMPARE(makeSimulatedDevice(state.path(), QStringLiteral(DEMO),
-                     DevicePaths { QStringLiteral(SOURCES "/demo/web") },
-                     QStringLiteral(SOURCES "/demo/device.json"), {}),
-            QString());
+        const DevicePaths files { QStringLiteral(SOURCES "/demo/web") };
+        const QString data = QStringLiteral(SOURCES "/demo/device.json");
+        QVERIFY(makeSimulatedDevice(state.path(), QStringLiteral(DEMO), files, data, {}).isEmpty());
         PtySession session;
         const QString tool = QStringLiteral("--tool=") + simulatedTool(state.path());
-        QVERIFY(start(session, { demo, QStringLiteral("--device"), tool }, 80));
+        session.setStandardError(QStringLiteral("/dev/tty"));
+        QVERIFY(session.start(QStringLiteral(CHECKER), { demo, ask, tool }, 24, 80));
         QCOMPARE(session.waitForExit(), (ExitStatus { ExitStatus::Exited, 0 }));
+        QVERIFY(session.bytesSinceMark().contains("K4 of 63: get_menu truck_status\r"));
         // The progress is gone; what is left are the slowest five calls.
-        QVERIFY(session.terminal().row(0).contains(QStringLiteral(" calls in ")));
+        QVERIFY(session.terminal().row(0).startsWith(QStringLiteral("63 calls in ")));
         QVERIFY(session.terminal().row(5).contains(QStringLiteral(" s  ")));
         QCOMPARE(session.terminal().row(6), QString());
     }
@@ -216,18 +195,17 @@ private slots:
     void endsAtOnce()
     {
         device.setScreens(oneField);
-        device.setTool("echo $$ > \"${0%/*}/pid\"; exec sleep 60");
-        QFile pid(device.paths().webRoot + QStringLiteral("/pid"));
+        device.setTool("echo $$ >> \"${0%/*}/calls\"; exec sleep 60");
         PtySession session;
-        QVERIFY(start(session, { root(), QStringLiteral("--device"), tool() }, 30));
+        session.setStandardError(QStringLiteral("/dev/tty"));
+        QVERIFY(session.start(QStringLiteral(CHECKER), { root(), ask, tool() }, 24, 30));
         QVERIFY(session.waitForText(QStringLiteral("1 of 3: get_menu_electronic_s")));
         QCOMPARE(session.terminal().row(1), QString());
-        QVERIFY(
-            session.waitFor([&pid] { return pid.size() > 1; }) && pid.open(QIODevice::ReadOnly));
+        QStringList calls { QString() };
+        QVERIFY(session.waitFor([&] { return (calls += device.takeCalls()).last().toInt() > 0; }));
         QVERIFY(session.send("\x03"));
         QCOMPARE(session.waitForExit(), (ExitStatus { ExitStatus::Killed, SIGINT }));
-        const QString program =
-            QStringLiteral("/proc/%1/exe").arg(QString::fromLatin1(pid.readAll().trimmed()));
+        const QString program = QStringLiteral("/proc/%1/exe").arg(calls.last());
         QVERIFY(session.waitFor([&program] { return !QFileInfo::exists(program); }));
     }
 };
