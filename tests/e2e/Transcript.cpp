@@ -1,7 +1,6 @@
 #include "tests/e2e/Transcript.h"
 
 static const QString indentation = QStringLiteral("    ");
-static const QString fence = QStringLiteral("```");
 
 QString Transcript::text() const
 {
@@ -14,50 +13,36 @@ QString Transcript::text() const
     return (lines + rest).join(QLatin1Char('\n'));
 }
 
-// Takes the lines up to the closing fence; false without one.
-static bool takeFenced(const QStringList &lines, int &index, TranscriptEntry &entry)
-{
-    for (++index; index < lines.size(); ++index) {
-        entry.source += lines.at(index);
-        if (lines.at(index) == fence)
-            return true;
-        entry.text += lines.at(index) + QLatin1Char('\n');
-    }
-    return false;
-}
-
 Transcript parseTranscript(const QString &text)
 {
     static const QVector<QPair<QString, TranscriptEntry::Kind>> openings {
-        { fence + QStringLiteral("json"), TranscriptEntry::Translations },
-        { fence + QStringLiteral("js"), TranscriptEntry::Screens },
-        { indentation + QStringLiteral("tool "), TranscriptEntry::Answer },
-        { indentation + QStringLiteral("> "), TranscriptEntry::Step }
+        { QStringLiteral("menu "), TranscriptEntry::Screens },
+        { QStringLiteral("translations "), TranscriptEntry::Translations },
+        { QStringLiteral("tool "), TranscriptEntry::Answer },
+        { QStringLiteral("> "), TranscriptEntry::Step }
     };
     Transcript transcript;
     QVector<TranscriptEntry> &entries = transcript.entries;
     const QStringList lines = text.split(QLatin1Char('\n'));
-    for (int i = 0; i < lines.size() && transcript.error.isEmpty(); ++i) {
+    for (int i = 0; i < lines.size(); ++i) {
         const QString &line = lines.at(i);
+        const QString words = line.mid(indentation.size());
         const auto *const opening = std::find_if(openings.begin(), openings.end(),
-            [&line](const auto &candidate) { return line.startsWith(candidate.first); });
-        bool isKnown = true;
-        if (opening != openings.end()) {
-            const QString words = line.mid(opening->first.size());
-            entries.append({ opening->second, words, i + 1, transcript.rest << line, {} });
-            transcript.rest.clear();
-            isKnown = !line.startsWith(fence)
-                || (words.isEmpty() && takeFenced(lines, i, entries.last()));
-        } else if (line.startsWith(indentation)) {
-            isKnown = !entries.isEmpty() && entries.last().kind == TranscriptEntry::Step;
-            if (isKnown)
-                entries.last().expected += line.mid(indentation.size());
-        } else {
-            isKnown = !line.startsWith(fence);
+            [&words](const auto &candidate) { return words.startsWith(candidate.first); });
+        if (!line.startsWith(indentation)) {
             transcript.rest += line;
-        }
-        if (!isKnown)
+        } else if (opening != openings.end()) {
+            entries.append({ opening->second, words.mid(opening->first.size()), i + 1,
+                transcript.rest << line, {} });
+            transcript.rest.clear();
+        } else if (entries.isEmpty() || entries.last().kind == TranscriptEntry::Answer) {
             transcript.error = QStringLiteral("%1 is part of nothing").arg(line.trimmed());
+        } else if (entries.last().kind == TranscriptEntry::Step) {
+            entries.last().expected += words;
+        } else {
+            entries.last().source += line;
+            entries.last().text += QLatin1Char('\n') + words;
+        }
     }
     return transcript;
 }

@@ -12,14 +12,27 @@ static QString quoted(QString text)
     return QStringLiteral("'%1'").arg(text.replace(QLatin1Char('\''), QLatin1String("'\\''")));
 }
 
+// Calls in a row that are alike become one with their number.
+static QString listOfCalls(const QStringList &calls)
+{
+    QStringList list;
+    for (int first = 0, next = 0; first < calls.size(); first = next) {
+        while (next < calls.size() && calls.at(next) == calls.at(first))
+            ++next;
+        const QString times = QStringLiteral("%1 times ").arg(next - first);
+        list += (next - first > 1 ? times : QString()) + calls.at(first);
+    }
+    return list.join(QStringLiteral("; "));
+}
+
 QString TranscriptPlayer::play(const TranscriptEntry &entry)
 {
     switch (entry.kind) {
     case TranscriptEntry::Screens:
-        device.setScreens(entry.text.toUtf8());
+        session.device.setScreens(entry.text.toUtf8());
         return {};
     case TranscriptEntry::Translations:
-        device.setTranslations(entry.text.toUtf8());
+        session.device.setTranslations(entry.text.toUtf8());
         return {};
     case TranscriptEntry::Answer:
         return setAnswer(entry.text);
@@ -39,7 +52,7 @@ QString TranscriptPlayer::setAnswer(const QString &line)
     answers.prepend(QStringLiteral("%1) printf '%s\\n' %2;;")
                         .arg(call, quoted(withCharacterCodes(found.captured(2)))));
     const QString branches = answers.join(QLatin1Char('\n'));
-    device.setTool(QStringLiteral("case \"$*\" in\n%1\nesac").arg(branches).toUtf8());
+    session.device.setTool(QStringLiteral("case \"$*\" in\n%1\nesac").arg(branches).toUtf8());
     return {};
 }
 
@@ -53,45 +66,38 @@ QString TranscriptPlayer::doStep(const QString &action)
     const int rows = found.captured(3).toInt();
     const std::optional<QByteArrayList> keys = keysFromText(found.captured(4));
     const bool isStart = verb.startsWith(QLatin1String("start"));
-    if (!keys || (!session && !isStart))
-        return QStringLiteral("unknown words, or nothing was started");
+    if (!keys || isStart == isStarted())
+        return QStringLiteral("unknown words, or not one start before all other steps");
     if (isStart && !start(verb.endsWith(QLatin1String("demo")), rows, columns))
         return QStringLiteral("the console does not start");
     if (!isStart)
-        session->mark();
+        session.mark();
     if (verb == QLatin1String("resize"))
-        session->resize(rows, columns);
-    const bool isDone = session->waitForRest()
+        session.resize(rows, columns);
+    const bool isDone = session.waitForRest()
         && std::all_of(keys->begin(), keys->end(), [this](const QByteArray &key) {
-               return session->press(key) && session->waitForRest();
+               return session.PtySession::press(key) && session.waitForRest();
            });
     return isDone ? QString() : QStringLiteral("the console hangs");
 }
 
 bool TranscriptPlayer::start(bool onDemo, int rows, int columns)
 {
-    session.reset();
-    demo.reset(onDemo ? new QTemporaryDir : nullptr);
-    session = std::make_unique<PtySession>();
-    session->setStandardError(device.paths().webRoot + QStringLiteral("/messages"));
+    if (onDemo)
+        demo = std::make_unique<QTemporaryDir>();
     takeCalls();
-    const DevicePaths &paths = device.paths();
-    const bool isStarted = onDemo
-        ? session->start(
-            QStringLiteral(DEMO), { QStringLiteral("--state"), demo->path() }, rows, columns)
-        : session->start(QStringLiteral(TEST_SESSION),
-            { paths.webRoot, paths.settingsScript, paths.backendTool, QStringLiteral("180000") },
-            rows, columns);
-    return isStarted && session->waitFor([this] { return !session->bytesSinceMark().isEmpty(); });
+    const bool isDone = onDemo ? session.start(QStringLiteral(DEMO),
+                            { QStringLiteral("--state"), demo->path() }, rows, columns)
+                               : session.run(QStringLiteral(TEST_SESSION), rows, columns);
+    return isDone && session.waitFor([this] { return !session.bytesSinceMark().isEmpty(); });
 }
 
 QStringList TranscriptPlayer::outcome()
 {
-    if (!session)
-        return {};
-    const TerminalEmulator &terminal = session->terminal();
-    QStringList lines = notationOfRows(terminal, terminal.writtenRows());
-    if (terminal.cursorVisible())
+    const TerminalEmulator &terminal = session.terminal();
+    const std::set<int> &rows = terminal.writtenRows();
+    QStringList lines = notationOfRows(terminal, rows);
+    if (terminal.cursorVisible() && rows.count(terminal.cursor().y()) == 0)
         lines += QStringLiteral("cursor %1,%2")
                      .arg(terminal.cursor().y() + 1)
                      .arg(terminal.cursor().x() + 1);
@@ -99,8 +105,8 @@ QStringList TranscriptPlayer::outcome()
         lines += QStringLiteral("the terminal answers");
     const QStringList calls = takeCalls();
     if (!calls.isEmpty())
-        lines += QStringLiteral("runs ") + calls.join(QStringLiteral("; "));
-    const ExitStatus end = session->status();
+        lines += QStringLiteral("runs ") + listOfCalls(calls);
+    const ExitStatus end = session.status();
     if (end.state != ExitStatus::Running)
         lines += QLatin1String(end.state == ExitStatus::Exited ? "exits " : "is killed by ")
             + QString::number(end.value);
@@ -110,15 +116,16 @@ QStringList TranscriptPlayer::outcome()
 QStringList TranscriptPlayer::screen() const
 {
     std::set<int> rows;
-    for (int row = 0; session && row < session->terminal().screen().size(); ++row)
+    for (int row = 0; row < session.terminal().screen().size(); ++row)
         rows.insert(row);
-    return session ? notationOfRows(session->terminal(), rows) : QStringList();
+    return notationOfRows(session.terminal(), rows);
 }
 
 QStringList TranscriptPlayer::takeCalls()
 {
     if (!demo)
-        return device.takeCalls().replaceInStrings(QStringLiteral("|"), QStringLiteral(" "));
+        return session.device.takeCalls().replaceInStrings(
+            QStringLiteral("|"), QStringLiteral(" "));
     // The demo's tool writes calls into this file when there is one.
     QFile log(demo->filePath(QStringLiteral("calls.log")));
     QStringList calls;

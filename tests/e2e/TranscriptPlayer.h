@@ -1,9 +1,8 @@
 // Plays the entries of a transcript.
 #pragma once
 
-#include "terminal/PtySession.h"
 #include "tests/e2e/Transcript.h"
-#include "tests/support/FakeDevice.h"
+#include "tests/support/DeviceSession.h"
 
 #include <memory>
 
@@ -21,9 +20,9 @@ private:
     QString doStep(const QString &action);
     bool start(bool onDemo, int rows, int columns);
     QStringList takeCalls();
+    bool isStarted() const { return session.pid() != -1; }
 
-    FakeDevice device;
+    DeviceSession session;
     QStringList answers; ///< branches of the tool's `case`, the last one first
     std::unique_ptr<QTemporaryDir> demo; ///< the state of the demo's device while that is played on
-    std::unique_ptr<PtySession> session;
 };

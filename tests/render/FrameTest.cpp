@@ -20,6 +20,7 @@ private slots:
         state.resetDialog();
         const TreeViewItemHandler handler { DevicePaths() };
         TerminalEmulator terminal(state.termRows, state.termColumns);
+        terminal.feed("\x1b[?25l");
         Screen screen([&terminal](const QByteArray &bytes) { terminal.feed(bytes); });
         const auto rowsAfterDrawing = [&] {
             terminal.forgetWrittenRows();
@@ -33,15 +34,13 @@ private slots:
      2 :             +---Select next Step----+
      3 :hidden by the|                       |
      4 :             |                       |
-     5 :             |  start Dravikon Menu  |
-       :              mmmmmmmmmmmmmmmmmmmmmmm
+     5 :             |  start Dravikon Menu  |  <- magenta 15-37
      6 :             |continue to local shell|
      7 :             +-----------------------+)"));
         moveSelection(state, handler, false, +1);
         QCOMPARE(
             rowsAfterDrawing(), QStringLiteral(R"(     4 :             |  start Dravikon Menu  |
-     5 :             |continue to local shell|
-       :              mmmmmmmmmmmmmmmmmmmmmmm
+     5 :             |continue to local shell|  <- magenta 15-37
      6 :             |                       |)"));
         moveSelection(state, handler, false, +1);
         QCOMPARE(rowsAfterDrawing(), QString());
@@ -57,7 +56,8 @@ private slots:
         TerminalEmulator terminal(3, 20);
         terminal.feed(QStringList(frame.values()).join(QStringLiteral("\x1b[K\r\n")).toLatin1());
         QCOMPARE(notationOfRows(terminal, { 0, 1, 2 }).join(QLatin1Char('\n')),
-            QStringLiteral("     1 :x\n     2 :xxx\n       :ggg\n     3 :+ab-----+"));
+            QStringLiteral(
+                "     1 :x\n     2 :xxx  <- green 1-3\n     3 :+ab-----+  <- cursor 10"));
     }
 };
 

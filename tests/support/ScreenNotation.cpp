@@ -2,19 +2,35 @@
 
 #include <Version.h>
 
-// The text of a row and its colours, without numbers.
-static QStringList notationOfRow(const TerminalEmulator &terminal, int row)
+// What is not the same in the whole row: the colours of columns and the text cursor.
+static QString remarksOn(const TerminalEmulator &terminal, int row, const QString &colours)
+{
+    static const QStringList names { QStringLiteral("red"), QStringLiteral("green"),
+        QStringLiteral("blue"), QStringLiteral("magenta") };
+    QStringList remarks;
+    for (int first = 0, next = 0; first < colours.size(); first = next) {
+        const QString name = names.value(QStringLiteral("rgbm").indexOf(colours.at(first)));
+        while (next < colours.size() && colours.at(next) == colours.at(first))
+            ++next;
+        if (colours.at(first) != QLatin1Char('.') && next - first < colours.size())
+            remarks += QStringLiteral("%1 %2-%3").arg(name).arg(first + 1).arg(next);
+    }
+    if (terminal.cursorVisible() && terminal.cursor().y() == row)
+        remarks += QStringLiteral("cursor %1").arg(terminal.cursor().x() + 1);
+    return QLatin1String(remarks.isEmpty() ? "" : "  <- ") + remarks.join(QStringLiteral(", "));
+}
+
+// A row without its number.
+static QString notationOfRow(const TerminalEmulator &terminal, int row)
 {
     // The expectations outlive a version.
     QString text = terminal.row(row);
     text.replace(QLatin1String("ver: ") + consoleVersion, QLatin1String("ver: VERSION"));
-    QString colours = terminal.backgrounds(row).replace(QLatin1Char('.'), QLatin1Char(' '));
+    const QString colours = terminal.backgrounds(row);
     const QChar first = colours.at(0);
-    if (colours.count(first) == colours.size())
-        return { first + QLatin1Char(':') + text };
-    while (colours.endsWith(QLatin1Char(' ')))
-        colours.chop(1);
-    return { QStringLiteral(" :") + text, QStringLiteral(" :") + colours };
+    const bool isPlain = first == QLatin1Char('.') || colours.count(first) < colours.size();
+    return (isPlain ? QLatin1Char(' ') : first) + QLatin1Char(':') + text
+        + remarksOn(terminal, row, colours);
 }
 
 QStringList notationOfRows(const TerminalEmulator &terminal, const std::set<int> &rows)
@@ -23,16 +39,13 @@ QStringList notationOfRows(const TerminalEmulator &terminal, const std::set<int>
     for (auto row = rows.begin(); row != rows.end();) {
         const int first = *row;
         int last = first;
-        QStringList notation = notationOfRow(terminal, first);
+        const QString notation = notationOfRow(terminal, first);
         while (++row != rows.end() && *row == last + 1 && notationOfRow(terminal, *row) == notation)
             ++last;
         QString number = QString::number(first + 1);
         if (last > first)
             number += QLatin1Char('-') + QString::number(last + 1);
-        for (const QString &line : notation) {
-            lines += number.rightJustified(6) + line;
-            number.clear();
-        }
+        lines += number.rightJustified(6) + notation;
     }
     return lines;
 }

@@ -3,6 +3,5 @@
 
 #include "terminal/TerminalEmulator.h"
 
-/// What the 0-based rows show: a line for each run of alike rows, and a second one for the colours
-/// where a row has several.
+/// What the 0-based rows show: a line for each run of alike rows.
 QStringList notationOfRows(const TerminalEmulator &terminal, const std::set<int> &rows);
