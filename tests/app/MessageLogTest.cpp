@@ -27,7 +27,8 @@ QByteArrayList waitingLines(int reader)
     for (ssize_t size = 1; size > 0; text += piece.left(int(size)) + (size < 200 ? "\n" : ""))
         size = qMax<ssize_t>(read(reader, piece.data(), size_t(piece.size())), 0);
     QByteArrayList lines = text.split('\n');
-    lines.removeAll(QByteArray());
+    while (!lines.isEmpty() && lines.last().isEmpty())
+        lines.removeLast();
     return lines;
 }
 

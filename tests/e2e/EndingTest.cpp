@@ -192,8 +192,10 @@ private slots:
         QFETCH(ExitStatus, status);
         Session session;
         QVERIFY(session.start(number == 0 && key == Key::down ? 1500 : 180000));
+        // The console waits for room in the terminal, also where it could poll in a loop.
+        session.setInputBlocking(number == 0);
         session.stopOutput();
-        QVERIFY(session.press({ key }));
+        QVERIFY(session.press({ key }) && session.waitForRest());
         session.signal(number);
         QCOMPARE(session.waitForExit(), status);
         QVERIFY((session.attributes().c_lflag & (ICANON | ECHO)) == (ICANON | ECHO));
