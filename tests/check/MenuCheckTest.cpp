@@ -50,10 +50,11 @@ class MenuCheckTest : public QObject {
 
     static QByteArray run(const QStringList &arguments)
     {
-        const QStringList shell { QStringLiteral("-c"), QStringLiteral("\"$0\" \"$@\" 2>&1"),
+        const QStringList shell { QStringLiteral("-o"), QStringLiteral("pipefail"),
+            QStringLiteral("-c"), QStringLiteral("\"$0\" \"$@\" 2>&1 | cat"),
             QStringLiteral(CHECKER) };
-        const ProgramResult result = runProgram(QStringLiteral("/bin/sh"), shell + arguments);
-        return QByteArray::number(result.exitStatus) + ' ' + result.output;
+        const ProgramResult result = runProgram(QStringLiteral("/bin/bash"), shell + arguments);
+        return QByteArray::number(result.end.value) + ' ' + result.output;
     }
 
 private slots:

@@ -28,7 +28,7 @@ private slots:
         QFETCH(QString, words);
         const ProgramResult result =
             runProgram(QStringLiteral(CONSOLE), words.split(QLatin1Char(' ')));
-        QCOMPARE(result.exitStatus, 255);
+        QCOMPARE(result.end, (ExitStatus { ExitStatus::Exited, 255 }));
         QTEST(result.output, "output");
     }
 

@@ -248,7 +248,7 @@ private slots:
         QVERIFY(messages().startsWith("dravikon-preview: cannot load "));
         files.setTranslations("{}");
         files.setScript("var = 1");
-        QVERIFY(messages().contains("\nerror: ") && messages().endsWith(" [script]\n"));
+        QVERIFY(messages().startsWith("error: ") && messages().endsWith(" [script]\n"));
         files.setScreens("[{css: '1', screens: []}]");
         QCOMPARE(messages(), QByteArray());
     }

@@ -1,14 +1,17 @@
-// A program that needs no terminal: runs it to its end.
+// A program run to its end on a terminal that has no size.
 #pragma once
 
-#include <QByteArray>
-#include <QStringList>
+#include "terminal/PtySession.h"
 
 struct ProgramResult {
-    int exitStatus; ///< 127 when it cannot be started, -1 when a signal ended it
+    ExitStatus end;
     QByteArray output; ///< what it printed on standard output
 };
 
-/// Runs `program` with `arguments` and nothing to read. QProcess reports wrong statuses of
-/// programs that run under an emulator.
-ProgramResult runProgram(const QString &program, const QStringList &arguments);
+inline ProgramResult runProgram(const QString &program, const QStringList &arguments)
+{
+    PtySession session;
+    session.PtyProcess::start(program, arguments, 0, 0);
+    const ExitStatus end = session.waitForExit();
+    return { end, session.bytesSinceMark().replace("\r\n", "\n") };
+}
