@@ -43,15 +43,11 @@ public:
 
     bool start(int idleMs = 180000) { return run(console, 24, 80, idleMs) && hasTitle(); }
 
-    /// Starts the console through another program, which gets it as its last arguments.
-    bool startBy(const QByteArrayList &command)
+    /// Runs a command of the shell, for which "$@" starts the console.
+    bool startBy(const QString &command, int idleMs = 180000)
     {
-        QStringList words;
-        for (const QByteArray &word : command.mid(1))
-            words += QString::fromLocal8Bit(word);
-        words += console;
-        return PtySession::start(
-            QString::fromLocal8Bit(command.first()), words + arguments(), 24, 80);
+        const QStringList words { QStringLiteral("-c"), command, QStringLiteral("bash"), console };
+        return PtySession::start(QStringLiteral("/bin/bash"), words + arguments(idleMs), 24, 80);
     }
 
     bool isTerminalRestored() const
