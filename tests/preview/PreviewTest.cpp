@@ -71,10 +71,8 @@ class PreviewTest : public QObject {
 
     void playScreen(TreeViewItemHandler &menu, TreeViewItem &root, TreeViewItem &screen)
     {
-        const auto open = [&] {
-            return screen.parentItem && menu.toggleItem(root, &screen, false);
-        };
-        open();
+        if (screen.parentItem)
+            menu.toggleItem(root, &screen, false);
         for (const auto &child : screen.children) {
             TreeViewItem &item = *child;
             if (menu.readBinding(screen) && menu.isValueBearing(item)) {
@@ -85,15 +83,13 @@ class PreviewTest : public QObject {
                 const QString chosen = item.value.toString();
                 QVERIFY2(menu.writeItemValues(item), qPrintable(menu.labelKey(item)));
                 item.value.clear();
-                open(); // closes it
-                QVERIFY(open());
+                menu.toggleItem(root, &screen, false); // closes it
+                menu.toggleItem(root, &screen, false);
                 QCOMPARE(item.value.toString(), chosen);
                 ++changeCount;
             }
-        }
-        for (const auto &child : screen.children) {
-            if (!child->children.empty())
-                playScreen(menu, root, *child);
+            if (!item.children.empty())
+                playScreen(menu, root, item);
         }
     }
 
