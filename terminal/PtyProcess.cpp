@@ -84,6 +84,9 @@ bool PtyProcess::start(const QString &program, const QStringList &arguments, int
             STDERR_FILENO);
         // The type whose keys send the sequences of terminal/Keys.h.
         setenv("TERM", "linux", true);
+        // Ignored in jobs that a script started in the background, but not in a login.
+        ::signal(SIGINT, SIG_DFL);
+        ::signal(SIGQUIT, SIG_DFL);
         execvp(argv.first(), argv.data());
         _exit(127);
     }

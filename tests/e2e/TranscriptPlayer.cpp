@@ -27,18 +27,17 @@ static QString listOfCalls(const QStringList &calls)
 
 QString TranscriptPlayer::play(const TranscriptEntry &entry)
 {
-    switch (entry.kind) {
-    case TranscriptEntry::Screens:
-        session.device.setScreens(entry.text.toUtf8());
-        return {};
-    case TranscriptEntry::Translations:
-        session.device.setTranslations(entry.text.toUtf8());
-        return {};
-    case TranscriptEntry::Answer:
-        return setAnswer(entry.text);
-    case TranscriptEntry::Step:
+    if (entry.word == QLatin1String(">"))
         return doStep(entry.text);
-    }
+    const QString text = (QStringList(entry.text) + entry.further).join(QLatin1Char('\n'));
+    if (entry.word == QLatin1String("tool"))
+        return setAnswer(text);
+    if (entry.word == QLatin1String("menu"))
+        session.device.setScreens(text.toUtf8());
+    else if (entry.word == QLatin1String("translations"))
+        session.device.setTranslations(text.toUtf8());
+    else
+        return QStringLiteral("a line that is part of nothing");
     return {};
 }
 

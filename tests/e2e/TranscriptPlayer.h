@@ -1,10 +1,15 @@
 // Plays the entries of a transcript.
 #pragma once
 
-#include "tests/e2e/Transcript.h"
 #include "tests/support/DeviceSession.h"
 
 #include <memory>
+
+struct TranscriptEntry {
+    QString word; ///< "menu", "translations", "tool" or ">"
+    QString text; ///< what follows the word
+    QStringList further; ///< the lines after: more of the text, or what comes of a step
+};
 
 class TranscriptPlayer {
 public:
@@ -14,13 +19,14 @@ public:
     QStringList outcome();
     /// The whole screen in the same notation.
     QStringList screen() const;
+    /// True after the first step.
+    bool isStarted() const { return session.pid() != -1; }
 
 private:
     QString setAnswer(const QString &line);
     QString doStep(const QString &action);
     bool start(bool onDemo, int rows, int columns);
     QStringList takeCalls();
-    bool isStarted() const { return session.pid() != -1; }
 
     DeviceSession session;
     QStringList answers; ///< branches of the tool's `case`, the last one first

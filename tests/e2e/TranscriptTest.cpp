@@ -1,58 +1,74 @@
-// Plays transcripts of sessions: transcript-test [--rewrite] FILE...|FOLDER. With --rewrite it
+// Plays transcripts of sessions: transcript-test [--rewrite] FILE... With --rewrite it
 // writes what it sees into the files, for a person to read in the difference to before.
 #include "tests/e2e/TranscriptPlayer.h"
 
-#include <QFile>
+#include <QRegularExpression>
 
 #include <cstdio>
+#include <optional>
 
 namespace {
+
+const QString indentation = QStringLiteral("    ");
+const QRegularExpression opening(QStringLiteral("^    (menu|translations|tool|>) (.*)$"));
 
 void print(const QString &title, const QStringList &lines = {})
 {
     std::puts((QStringList(title) + lines).join(QStringLiteral("\n    ")).toUtf8().constData());
 }
 
-// Plays a step or changes the device; false when that fails or something else comes of it.
-bool playEntry(TranscriptPlayer &player, TranscriptEntry &entry, const QString &path, bool rewrites)
+// The entry that begins at line `i`, which becomes its last line.
+TranscriptEntry takeEntry(const QStringList &lines, int &i)
+{
+    const QRegularExpressionMatch words = opening.match(lines.at(i));
+    TranscriptEntry entry { words.captured(1), words.captured(2), {} };
+    while (lines.value(i + 1).startsWith(indentation) && !opening.match(lines[i + 1]).hasMatch())
+        entry.further += lines.at(++i).mid(indentation.size());
+    return entry;
+}
+
+// Plays an entry and returns what came of it, nothing when that was not to be.
+std::optional<QStringList> play(
+    TranscriptPlayer &player, const TranscriptEntry &entry, const QString &place, bool rewrites)
 {
     const QString error = player.play(entry);
-    if (error.isEmpty() && entry.kind != TranscriptEntry::Step)
-        return true;
-    const QStringList seen = player.outcome();
-    if (error.isEmpty() && (rewrites || seen == entry.expected)) {
-        entry.expected = seen;
-        return true;
-    }
-    print(QStringLiteral("\n%1:%2: %3\nexpected:")
-              .arg(path)
-              .arg(entry.line)
-              .arg(error.isEmpty() ? QStringLiteral("something else came of it") : error),
-        entry.expected);
-    print(QStringLiteral("seen:"), QStringList(QStringLiteral("> ") + entry.text) + seen);
+    const QStringList seen = entry.word == QLatin1String(">") ? player.outcome() : entry.further;
+    if (error.isEmpty() && (rewrites || seen == entry.further))
+        return seen;
+    print(place + (error.isEmpty() ? QStringLiteral("something else came of it") : error));
+    print(QStringLiteral("expected:"), entry.further);
+    print(QStringLiteral("seen:"), QStringList(entry.word + QLatin1Char(' ') + entry.text) + seen);
     print(QStringLiteral("the whole screen:"), player.screen());
     print(QStringLiteral("The notation is described in tests/e2e/README.md."));
-    return false;
+    return std::nullopt;
 }
 
 // Plays a transcript, whose expectations become what was seen if that is wanted.
 bool check(const QString &path, bool rewrites)
 {
     QFile file(path);
-    Transcript transcript = parseTranscript(
-        file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString());
+    QStringList lines;
+    if (file.open(QIODevice::ReadOnly))
+        lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
     file.close();
-    if (transcript.entries.isEmpty() || !transcript.error.isEmpty()) {
-        print(QStringLiteral("%1: no transcript; %2").arg(path, transcript.error));
-        return false;
-    }
     TranscriptPlayer player;
-    for (TranscriptEntry &entry : transcript.entries) {
-        if (!playEntry(player, entry, path, rewrites))
+    QStringList written;
+    for (int i = 0; i < lines.size(); ++i) {
+        written += lines.at(i);
+        if (!lines.at(i).startsWith(indentation))
+            continue;
+        const QString place = QStringLiteral("\n%1:%2: ").arg(path).arg(i + 1);
+        const auto seen = play(player, takeEntry(lines, i), place, rewrites);
+        if (!seen)
             return false;
+        for (const QString &line : *seen)
+            written += indentation + line;
     }
-    const QByteArray text = transcript.text().toUtf8();
-    return !rewrites || (file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    if (!player.isStarted())
+        print(path + QStringLiteral(": no transcript, nothing was started"));
+    const QByteArray text = written.join(QLatin1Char('\n')).toUtf8();
+    return player.isStarted()
+        && (!rewrites || (file.open(QIODevice::WriteOnly) && file.write(text) == text.size()));
 }
 
 } // namespace
