@@ -85,16 +85,13 @@ private slots:
         Session session;
         session.device.setScript("new RegExp(Array(1e5).join('(') + Array(1e5).join(')'));");
         QVERIFY(session.run(console));
+        const QString end = QStringLiteral("ended by signal 11.\n");
+        const QString warning = QStringLiteral("nested too deeply"); // not on every processor
         QVERIFY(session.waitFor([&] {
-            return session.status().state != ExitStatus::Running
-                || session.messages().contains(QLatin1String("nested too deeply"));
+            return session.messages().contains(end) || session.messages().contains(warning);
         }));
-        if (session.status().state == ExitStatus::Running)
-            return QTest::qSkip(
-                "the engine of this processor notices the depth", __FILE__, __LINE__);
-        QCOMPARE(session.waitForExit(), (ExitStatus { ExitStatus::Killed, SIGSEGV }));
-        QVERIFY(session.isTerminalRestored());
-        QVERIFY(session.messages().contains(QLatin1String("ended by signal 11.\n")));
+        QVERIFY(
+            session.messages().contains(end) ? session.isTerminalRestored() : session.hasTitle());
     }
 
     void interrupt_data()

@@ -3,6 +3,7 @@
 #include "terminal/Keys.h"
 #include "tests/support/DeviceSession.h"
 #include "tests/support/Rows.h"
+#include "tests/support/ScreenNotation.h"
 
 #include <QDir>
 #include <QRandomGenerator>
@@ -71,12 +72,6 @@ class RandomSessions : public QObject {
         session->resize(size.height(), size.width());
     }
 
-    void setFault(const QByteArray &fault)
-    {
-        QFile file(session->device.paths().webRoot + QStringLiteral("/fault"));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(fault) > 0);
-    }
-
     bool hasBars()
     {
         const QString header =
@@ -93,14 +88,6 @@ class RandomSessions : public QObject {
         return QDir(QStringLiteral("/proc/%1/fd").arg(session->pid()))
             .entryList(QDir::Files | QDir::System)
             .size();
-    }
-
-    QStringList screen() const
-    {
-        QStringList lines = session->terminal().screen();
-        for (int row = 0; row < size.height(); ++row)
-            lines += session->terminal().backgrounds(row);
-        return lines;
     }
 
 private slots:
@@ -126,11 +113,13 @@ private slots:
         QVERIFY(session->run(QStringLiteral(TEST_SESSION)) && session->hasTitle());
         const int ownDescriptors = descriptors();
         QByteArray fault = "none";
+        QFile faultFile(session->device.paths().webRoot + QStringLiteral("/fault"));
         for (int step = 0, rare = seed; step < wanted("DRAVIKON_TEST_KEYS", 150); ++step) {
             switch (random.bounded(40)) {
             case 0:
                 fault = faults[random.bounded(int(std::size(faults)))];
-                setFault(fault);
+                QVERIFY(faultFile.open(QIODevice::WriteOnly) && faultFile.write(fault) > 0);
+                faultFile.close();
                 session->signal(SIGWINCH);
                 break;
             case 1:
@@ -149,10 +138,12 @@ private slots:
                 continue;
             QCOMPARE(descriptors(), ownDescriptors);
             // What is shown is what a fresh draw shows.
-            const QStringList shown = screen();
+            const QStringList shown = notationOfScreen(session->terminal());
             session->signal(SIGWINCH);
             QVERIFY(session->waitForRest());
-            QVERIFY(fault != "none" || session->waitFor([&] { return screen() == shown; }));
+            QVERIFY(fault != "none" || session->waitFor([&] {
+                return notationOfScreen(session->terminal()) == shown;
+            }));
         }
         session->signal(SIGINT);
         QCOMPARE(session->waitForExit(), (ExitStatus { ExitStatus::Exited, 0 }));
@@ -161,7 +152,7 @@ private slots:
     void cleanup()
     {
         if (QTest::currentTestFailed())
-            qWarning().noquote() << screen().join(QLatin1Char('\n'))
+            qWarning().noquote() << notationOfScreen(session->terminal()).join(QLatin1Char('\n'))
                                  << session->messages().right(4000);
         session.reset();
     }

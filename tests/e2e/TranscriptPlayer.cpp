@@ -2,7 +2,6 @@
 
 #include "json/JsonReader.h"
 #include "terminal/KeyText.h"
-#include "tests/support/ScreenNotation.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -110,14 +109,6 @@ QStringList TranscriptPlayer::outcome()
         lines += QLatin1String(end.state == ExitStatus::Exited ? "exits " : "is killed by ")
             + QString::number(end.value);
     return lines.isEmpty() ? QStringList { QStringLiteral("nothing") } : lines;
-}
-
-QStringList TranscriptPlayer::screen() const
-{
-    std::set<int> rows;
-    for (int row = 0; row < session.terminal().screen().size(); ++row)
-        rows.insert(row);
-    return notationOfRows(session.terminal(), rows);
 }
 
 QStringList TranscriptPlayer::takeCalls()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tests/support/DeviceSession.h"
+#include "tests/support/ScreenNotation.h"
 
 #include <memory>
 
@@ -18,7 +19,7 @@ public:
     /// What came of the last step since it began, in the notation of expectations.
     QStringList outcome();
     /// The whole screen in the same notation.
-    QStringList screen() const;
+    QStringList screen() const { return notationOfScreen(session.terminal()); }
     /// True after the first step.
     bool isStarted() const { return session.pid() != -1; }
 

@@ -49,3 +49,11 @@ QStringList notationOfRows(const TerminalEmulator &terminal, const std::set<int>
     }
     return lines;
 }
+
+QStringList notationOfScreen(const TerminalEmulator &terminal)
+{
+    std::set<int> rows;
+    for (int row = 0; row < terminal.screen().size(); ++row)
+        rows.insert(row);
+    return notationOfRows(terminal, rows);
+}

@@ -5,3 +5,5 @@
 
 /// What the 0-based rows show: a line for each run of alike rows.
 QStringList notationOfRows(const TerminalEmulator &terminal, const std::set<int> &rows);
+/// What all rows show.
+QStringList notationOfScreen(const TerminalEmulator &terminal);
