@@ -50,9 +50,8 @@ class MenuCheckTest : public QObject {
 
     static QByteArray run(const QStringList &arguments)
     {
-        const QStringList shell { QStringLiteral("-o"), QStringLiteral("pipefail"),
-            QStringLiteral("-c"), QStringLiteral("\"$0\" \"$@\" 2>&1 | cat"),
-            QStringLiteral(CHECKER) };
+        const QStringList shell { QStringLiteral("-c"),
+            QStringLiteral("set -o pipefail; " CHECKER " \"$@\" 2>&1 | cat"), QString() };
         const ProgramResult result = runProgram(QStringLiteral("/bin/bash"), shell + arguments);
         return QByteArray::number(result.end.value) + ' ' + result.output;
     }

@@ -84,7 +84,7 @@ private slots:
     {
         Session session;
         session.device.setScript("new RegExp(Array(1e5).join('(') + Array(1e5).join(')'));");
-        QVERIFY(session.run(console));
+        QVERIFY(session.run());
         const QString end = QStringLiteral("ended by signal 11.\n");
         const QString warning = QStringLiteral("nested too deeply"); // not on every processor
         QVERIFY(session.waitFor([&] {
@@ -117,7 +117,7 @@ private slots:
         Session session;
         session.device.setScript(script);
         session.device.setTool(tool);
-        QVERIFY(session.run(console));
+        QVERIFY(session.run());
         if (keys.isEmpty())
             QVERIFY(session.waitFor([&] { return !session.device.takeCalls().isEmpty(); }));
         else

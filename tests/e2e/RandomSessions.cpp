@@ -1,7 +1,6 @@
 // Plays random keys, sizes and faults of the tool against the console and checks its screen after
 // each. DRAVIKON_TEST_SESSIONS, _KEYS and _SEED in the environment ask for more of them.
-#include "terminal/Keys.h"
-#include "tests/support/DeviceSession.h"
+#include "tests/e2e/Session.h"
 #include "tests/support/Rows.h"
 #include "tests/support/ScreenNotation.h"
 
@@ -63,7 +62,7 @@ QByteArray randomKey(QRandomGenerator &random)
 class RandomSessions : public QObject {
     Q_OBJECT
 
-    std::unique_ptr<DeviceSession> session;
+    std::unique_ptr<Session> session;
     QSize size;
 
     void resize(const QSize &newSize)
@@ -103,14 +102,13 @@ private slots:
     {
         QFETCH(int, seed);
         QRandomGenerator random { quint32(seed) };
-        session = std::make_unique<DeviceSession>();
+        session = std::make_unique<Session>();
         QFile script(QStringLiteral(SOURCES "/demo/web/scripts/settings.js"));
         QVERIFY(script.open(QIODevice::ReadOnly));
         session->device.setScript(script.readAll());
         session->device.setTool(tool);
-        session->device.setTranslations("{}");
         size = { 80, 24 };
-        QVERIFY(session->run(QStringLiteral(TEST_SESSION)) && session->hasTitle());
+        QVERIFY(session->run() && session->hasTitle());
         const int ownDescriptors = descriptors();
         QByteArray fault = "none";
         QFile faultFile(session->device.paths().webRoot + QStringLiteral("/fault"));
@@ -146,7 +144,7 @@ private slots:
             }));
         }
         session->signal(SIGINT);
-        QCOMPARE(session->waitForExit(), (ExitStatus { ExitStatus::Exited, 0 }));
+        QCOMPARE(session->waitForExit(), endedWell);
     }
 
     void cleanup()

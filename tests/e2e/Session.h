@@ -2,7 +2,10 @@
 #pragma once
 
 #include "terminal/Keys.h"
-#include "tests/support/DeviceSession.h"
+#include "terminal/PtySession.h"
+#include "tests/support/FakeDevice.h"
+
+#include <QFile>
 
 const QString console = QStringLiteral(TEST_SESSION);
 const ExitStatus endedWell = { ExitStatus::Exited, 0 };
@@ -31,9 +34,10 @@ const QByteArray goodTool = toolThatReadsBy("echo '[\"Emma\",true,[]]'");
 const QByteArrayList keysToEditField = { Key::enter, Key::down, Key::enter };
 const QByteArrayList keysToDiagnoseScreen = { Key::down, Key::enter, Key::down, Key::enter };
 
-/// A session on a device in good order.
-class Session : public DeviceSession {
+class Session : public PtySession {
 public:
+    FakeDevice device;
+
     Session()
     {
         device.setScript(script);
@@ -41,7 +45,16 @@ public:
         device.setTranslations("{}");
     }
 
-    bool start(int idleMs = 180000) { return run(console, 24, 80, idleMs) && hasTitle(); }
+    ~Session() { kill(); }
+
+    /// Starts the console, its messages going to a file, and does not wait for its first frame.
+    bool run(int rows = 24, int columns = 80, int idleMs = 180000)
+    {
+        setStandardError(messagePath());
+        return PtySession::start(console, arguments(idleMs), rows, columns);
+    }
+
+    bool start(int idleMs = 180000) { return run(24, 80, idleMs) && hasTitle(); }
 
     /// Runs a command of the shell, for which "$@" starts the console.
     bool startBy(const QString &command, int idleMs = 180000)
@@ -50,9 +63,34 @@ public:
         return PtySession::start(QStringLiteral("/bin/bash"), words + arguments(idleMs), 24, 80);
     }
 
+    /// Waits for the title bar of the first frame.
+    bool hasTitle() { return waitForText(QStringLiteral("Drav")); }
+
+    /// Presses all keys, one by one.
+    bool press(const QByteArrayList &keys)
+    {
+        return std::all_of(keys.begin(), keys.end(),
+            [this](const QByteArray &key) { return PtySession::press(key); });
+    }
+
+    QString messages() const
+    {
+        QFile file(messagePath());
+        return file.open(QIODevice::ReadOnly) ? QString::fromLocal8Bit(file.readAll()) : QString();
+    }
+
     bool isTerminalRestored() const
     {
         return (attributes().c_lflag & (ICANON | ECHO)) == (ICANON | ECHO)
             && terminal().cursorVisible();
     }
+
+private:
+    QStringList arguments(int idleMs) const
+    {
+        const DevicePaths &paths = device.paths();
+        return { paths.webRoot, paths.settingsScript, paths.backendTool, QString::number(idleMs) };
+    }
+
+    QString messagePath() const { return device.paths().webRoot + QStringLiteral("/messages"); }
 };

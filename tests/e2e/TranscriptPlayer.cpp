@@ -84,9 +84,9 @@ bool TranscriptPlayer::start(bool onDemo, int rows, int columns)
     if (onDemo)
         demo = std::make_unique<QTemporaryDir>();
     takeCalls();
-    const bool isDone = onDemo ? session.start(QStringLiteral(DEMO),
+    const bool isDone = onDemo ? session.PtySession::start(QStringLiteral(DEMO),
                             { QStringLiteral("--state"), demo->path() }, rows, columns)
-                               : session.run(QStringLiteral(TEST_SESSION), rows, columns);
+                               : session.run(rows, columns);
     return isDone && session.waitFor([this] { return !session.bytesSinceMark().isEmpty(); });
 }
 

@@ -1,7 +1,7 @@
 // Plays the entries of a transcript.
 #pragma once
 
-#include "tests/support/DeviceSession.h"
+#include "tests/e2e/Session.h"
 #include "tests/support/ScreenNotation.h"
 
 #include <memory>
@@ -14,6 +14,8 @@ struct TranscriptEntry {
 
 class TranscriptPlayer {
 public:
+    TranscriptPlayer() { session.device.setTool(":"); }
+
     /// Plays an entry. Returns why that is not possible; nothing when it is done.
     QString play(const TranscriptEntry &entry);
     /// What came of the last step since it began, in the notation of expectations.
@@ -29,7 +31,7 @@ private:
     bool start(bool onDemo, int rows, int columns);
     QStringList takeCalls();
 
-    DeviceSession session;
+    Session session;
     QStringList answers; ///< branches of the tool's `case`, the last one first
     std::unique_ptr<QTemporaryDir> demo; ///< the state of the demo's device while that is played on
 };

@@ -209,27 +209,22 @@ private slots:
         }
     }
 
-    void exampleToolAnswersEveryCall()
+    void exampleToolSuitsTheConsole()
     {
         const QTemporaryDir directory;
-        shellOutput(QStringLiteral("install " SOURCES "/packaging/examples/DBusController ")
-            + directory.path());
-        const auto ask = [&](const QString &words) {
-            return shellOutput(directory.path() + QStringLiteral("/DBusController ") + words);
-        };
-        for (const char *call : { " truck_setup", "_electronic_seal_status",
-                 "_service_diagnose_spd_interfaces", "_service_diagnose_io_interfaces",
-                 "_service_diagnose_wetleg_interfaces", "_service_diagnose_as_interfaces",
-                 "_service_diagnose_tag_interfaces 0", "_service_diagnose_tag_interfaces 1" }) {
-            const QString words = QStringLiteral("get_menu") + QLatin1String(call);
-            const QByteArray list = ask(words);
-            QVERIFY2(!parseJson(list).value_or(QVariant()).toList().isEmpty(), call);
-            QCOMPARE(ask(QStringLiteral("'%1'").arg(words)), list);
-        }
-        QVERIFY(!ask(QStringLiteral("--version")).isEmpty());
-        const QString values = QStringLiteral("[false,\"two  blanks, * and \\\\\",1.5]");
-        QCOMPARE(ask(QStringLiteral("set_menu seal 2 '%1'").arg(values)), QByteArray("[true]\n"));
-        QCOMPARE(ask(QStringLiteral("get_menu seal 2")), values.toUtf8() + '\n');
+        const QString tool = directory.path() + QStringLiteral("/DBusController");
+        shellOutput(
+            QStringLiteral("install " SOURCES "/packaging/examples/DBusController ") + tool);
+        // It has values for some screens only; whatever else it answers is as it has to be.
+        const auto check =
+            QStringLiteral(CHECKER " --web-root=" SOURCES "/demo/web --device"
+                                   " --tool=%1 2>/dev/null | sed 's/.*\\[//' | uniq");
+        QCOMPARE(shellOutput(check.arg(tool)), QByteArray("few-values]\n"));
+        // In several words and in one.
+        const QByteArray values = "[false,\"two  blanks, * and \\\\\",1.5]\n";
+        const auto calls = QStringLiteral("%1 set_menu seal 2 '%2'; %1 'get_menu seal 2'");
+        QCOMPARE(shellOutput(calls.arg(tool, QString::fromLatin1(values.trimmed()))),
+            "[true]\n" + values);
     }
 
     void reportsProblemsAfterTheSession()

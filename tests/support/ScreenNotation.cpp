@@ -53,7 +53,7 @@ QStringList notationOfRows(const TerminalEmulator &terminal, const std::set<int>
 QStringList notationOfScreen(const TerminalEmulator &terminal)
 {
     std::set<int> rows;
-    for (int row = 0; row < terminal.screen().size(); ++row)
+    for (int row = terminal.screen().size() - 1; row >= 0; --row)
         rows.insert(row);
     return notationOfRows(terminal, rows);
 }
