@@ -15,8 +15,8 @@ for preset in asan fuzz dev; do
     cmake --build --preset "$preset"
 done
 DRAVIKON_TEST_SESSIONS=$sessions DRAVIKON_TEST_KEYS=$keys DRAVIKON_TEST_SEED=$seed \
-    build/asan/tests/e2e/random-sessions
-DRAVIKON_TEST_ENDINGS=$((2 * sessions)) build/dev/tests/e2e/ending-test toolIsStarting
+    build/asan/tests/random-sessions
+DRAVIKON_TEST_ENDINGS=$((2 * sessions)) build/dev/tests/ending-test toolIsStarting
 findings=build/fuzz/tests/fuzz/codec-findings
 build/fuzz/tests/fuzz/codec-fuzz -seed="$seed" -runs="$runs" -print_final_stats=1 \
     -artifact_prefix="$findings/" "$findings" tests/corpus/codec 2>&1 |

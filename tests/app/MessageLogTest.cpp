@@ -13,13 +13,6 @@ namespace {
 
 constexpr int messageCount = 3000; // more than any queue of the system takes
 
-// For the rest of the process, whose own reports go to standard output.
-void setStandardError(int descriptor)
-{
-    dup2(descriptor, STDERR_FILENO);
-    close(descriptor);
-}
-
 QByteArrayList waitingLines(int reader)
 {
     QByteArray text;
@@ -71,7 +64,7 @@ private slots:
         int ends[2];
         QVERIFY(pipe2(ends, O_CLOEXEC) == 0);
         fcntl(ends[0], F_SETFL, O_NONBLOCK);
-        setStandardError(ends[1]);
+        dup2(ends[1], STDERR_FILENO); // the test reports on standard output
         installMessageLog();
         dropsWhatDoesNotFit(ends[0]);
     }
@@ -84,7 +77,7 @@ private slots:
         int master = -1;
         int slave = -1;
         QVERIFY(daemon >= 0 && openpty(&master, &slave, nullptr, nullptr, nullptr) == 0);
-        setStandardError(slave);
+        dup2(slave, STDERR_FILENO);
         installMessageLog(path);
         dropsWhatDoesNotFit(daemon);
         close(daemon);

@@ -9,12 +9,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-static bool isAlive(pid_t process)
-{
-    QFile file(QStringLiteral("/proc/%1/stat").arg(process));
-    return file.open(QIODevice::ReadOnly) && !file.readAll().contains(") Z ");
-}
-
 class BackendTest : public QObject {
     Q_OBJECT
 
@@ -34,7 +28,6 @@ private slots:
         row("further values", "echo '[1, \"ä\", {\"a\": 0.5}]'", R"([1,"\u00e4",{"a":0.5}])", true);
         row("empty list", "echo []", "[]", false);
         row("object", "echo '{\"a\": 1}'", "[]", false);
-        row("no list", "echo true", "[]", false);
         row("no JSON", "echo '[1] x'", "[]", false);
         row("crash", "printf [3]; kill -SEGV $$", "[3]", true);
         row("exit status", "echo x >&2; echo [4]; exit 1", "[4]", true);
@@ -85,14 +78,12 @@ private slots:
         const pid_t child = pids.value(1).toInt();
         QVERIFY(timer.elapsed() < 30000);
         QVERIFY(parent > 1 && child > 1 && kill(parent, 0) != 0);
-        QTRY_COMPARE(isAlive(child), !hangs);
+        QTRY_COMPARE(QFileInfo::exists(QStringLiteral("/proc/%1/exe").arg(child)), !hangs);
         kill(child, SIGKILL);
     }
 
     void givesUpWhatCannotBeKilled()
     {
-        if (geteuid() != 0)
-            return QTest::qSkip("only root can make such a tool", __FILE__, __LINE__);
         QTemporaryDir directory;
         const QString tool = directory.filePath(QStringLiteral("setpriv"));
         QVERIFY(QFile::copy(QStringLiteral("/usr/bin/setpriv"), tool));
@@ -102,7 +93,7 @@ private slots:
         const pid_t console = fork();
         if (console == 0) {
             constexpr uid_t nobody = 65534;
-            if (setuid(nobody) != 0)
+            if (geteuid() != 0 || setuid(nobody) != 0)
                 _exit(noOtherUser);
             const QByteArray answer = BackendTool::run(tool,
                 { QStringLiteral("--reuid=0"), QStringLiteral("sh"), QStringLiteral("-c"),
@@ -114,7 +105,7 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(
             status >= 0 || waitpid(console, &status, WNOHANG) == console, 15000);
         if (WIFEXITED(status) && WEXITSTATUS(status) == noOtherUser)
-            return QTest::qSkip("there is no other user in this namespace", __FILE__, __LINE__);
+            return QTest::qSkip("only root can make such a tool", __FILE__, __LINE__);
         QCOMPARE(status, 0);
     }
 

@@ -42,11 +42,6 @@ const QByteArrayList keys = { Key::enter, Key::enter, Key::enter, Key::up, Key::
 // Sizes that chance hardly meets.
 const QSize rareSizes[] = { { 1, 1 }, { 2, 2 }, { 10, 3 }, { 500, 200 } };
 
-int wanted(const char *variable, int usual)
-{
-    return qEnvironmentVariableIsSet(variable) ? qEnvironmentVariableIntValue(variable) : usual;
-}
-
 QByteArray randomKey(QRandomGenerator &random)
 {
     // Bytes of the line discipline, of quitting and the one that begins a sequence stay out.
@@ -82,19 +77,13 @@ class RandomSessions : public QObject {
         });
     }
 
-    int descriptors() const
-    {
-        return QDir(QStringLiteral("/proc/%1/fd").arg(session->pid()))
-            .entryList(QDir::Files | QDir::System)
-            .size();
-    }
-
 private slots:
     void staySound_data()
     {
         const Rows<int> row("seed");
-        const int seed = wanted("DRAVIKON_TEST_SEED", 1);
-        for (int i = seed; i < seed + wanted("DRAVIKON_TEST_SESSIONS", 6); ++i)
+        const int sessions = qMax(6, qEnvironmentVariableIntValue("DRAVIKON_TEST_SESSIONS"));
+        const int seed = qMax(1, qEnvironmentVariableIntValue("DRAVIKON_TEST_SEED"));
+        for (int i = seed; i < seed + sessions; ++i)
             row("seed " + QByteArray::number(i), i);
     }
 
@@ -109,10 +98,15 @@ private slots:
         session->device.setTool(tool);
         size = { 80, 24 };
         QVERIFY(session->run() && session->hasTitle());
+        const auto descriptors = [this] {
+            const QDir folder(QStringLiteral("/proc/%1/fd").arg(session->pid()));
+            return folder.entryList(QDir::Files | QDir::System).size();
+        };
         const int ownDescriptors = descriptors();
+        const int steps = qMax(150, qEnvironmentVariableIntValue("DRAVIKON_TEST_KEYS"));
         QByteArray fault = "none";
         QFile faultFile(session->device.paths().webRoot + QStringLiteral("/fault"));
-        for (int step = 0, rare = seed; step < wanted("DRAVIKON_TEST_KEYS", 150); ++step) {
+        for (int step = 0, rare = seed; step < steps; ++step) {
             switch (random.bounded(40)) {
             case 0:
                 fault = faults[random.bounded(int(std::size(faults)))];

@@ -92,8 +92,6 @@ private slots:
             "^!ajaxResult.count\\(\\)$");
         row("no entry for the count", "[screen('btnParameterTruckSetup', [])]",
             "btnParameterTruckSetup", "^!searchIndexFound$");
-        row("no entries", "[to('btnParameterTruckSetup')]", "btnParameterTruckSetup",
-            "^!screens.isValid\\(\\)$");
         row("no binding",
             "[to('r'), screen('btnParameterTruckSetup', "
             "[field('truck_setup_compartments')])]",

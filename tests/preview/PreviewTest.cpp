@@ -30,6 +30,7 @@ class PreviewTest : public QObject {
     Q_OBJECT
 
     FakeDevice files;
+    const QString program = QStringLiteral(PREVIEW);
     int valueCount = 0;
     int changeCount = 0;
 
@@ -60,13 +61,6 @@ class PreviewTest : public QObject {
     static QByteArray read(const QVariant &state, const char *words)
     {
         return deviceJson(readValues(state, wordsOf(words)));
-    }
-
-    // The problem; null when the device could be made.
-    QString make(const QTemporaryDir &directory, const DeviceWishes &wishes = {})
-    {
-        return makeSimulatedDevice(
-            directory.path(), QStringLiteral(PREVIEW), files.paths(), {}, wishes);
     }
 
     void playScreen(TreeViewItemHandler &menu, TreeViewItem &root, TreeViewItem &screen)
@@ -138,7 +132,9 @@ private slots:
         valueCount = changeCount = 0;
         files.setScript(script);
         const QTemporaryDir directory;
-        QCOMPARE(make(directory, { 3, 2, true }), QString());
+        const DeviceWishes wishes { 3, 2, true };
+        QCOMPARE(
+            makeSimulatedDevice(directory.path(), program, files.paths(), {}, wishes), QString());
         DevicePaths paths = files.paths();
         paths.backendTool = simulatedTool(directory.path());
         TreeViewItemHandler menu(paths);
@@ -203,7 +199,8 @@ private slots:
         for (const char *name : { "state.json", "DBusController" }) {
             const QString path = directory.filePath(QLatin1String(name));
             QVERIFY(QFile::copy(files.paths().settingsScript, path));
-            QVERIFY(make(directory).contains(path));
+            QVERIFY(makeSimulatedDevice(directory.path(), program, files.paths(), {}, {})
+                        .contains(path));
             QVERIFY(QFileInfo(path).isFile() && QFileInfo(path).size() == 0);
             QFile::remove(path);
         }
