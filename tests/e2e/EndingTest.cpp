@@ -52,8 +52,8 @@ private slots:
         QCOMPARE(session.waitForExit(), endedWell);
         QVERIFY(timer.elapsed() >= 500);
         // One redraw for the end of input, not one after the other until the session ends.
-        QCOMPARE(session.bytesSinceMark().count("Dravikon ver"), 1);
-        QVERIFY(session.bytesSinceMark().size() < 2000);
+        const int size = session.bytesSinceMark().size();
+        QVERIFY(size > 100 && size < 2000);
     }
 
     void deathBySignal_data()
@@ -254,6 +254,16 @@ private slots:
         QCOMPARE(session.terminal().cursorVisible(), isEdit);
         QVERIFY(session.send(Key::escape + 'q'));
         QCOMPARE(session.waitForExit(), endedWell);
+    }
+
+    void continueAfterSigstop()
+    {
+        Session session;
+        QVERIFY(session.start());
+        session.mark();
+        session.signal(SIGSTOP);
+        session.signal(SIGCONT);
+        QVERIFY(session.waitFor([&] { return session.bytesSinceMark().contains("Drav"); }));
     }
 
     void endWhileStopped()

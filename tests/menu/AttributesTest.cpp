@@ -65,7 +65,6 @@ private slots:
         row("count", "values: ['abc', 3, 2]", 3);
         row("count", "values: {length: 1e10}", 100000);
         row("text 1", "values: ['abc', 3]", 3LL);
-        row("text 1", "values: ['abc']", QString());
         row("code 3", "dbValues: [0, 10, 10, 9007199254740992]", 9007199254740992LL);
         row("place of 10", "values: ['a', 'b', 'c'], dbValues: [0, 10, '10']", 1);
         row("place of 10", "values: ['a'], dbValues: [0, 10]", -1);

@@ -97,7 +97,6 @@ private slots:
         const auto add = [&row](const char *name, const char *define, int values, int changes) {
             row(name, QByteArray(helpers) + define, values, changes);
         };
-        add("no definition", "", 0, 0);
         add("every input kind", R"(define([to('kinds')], [page('kinds', [
                 field('separator'), field('button'), field('label'), field('input'), {},
                 field('selectlabel', { values: ['a'], dbValues: ['A'] }), to('below'),

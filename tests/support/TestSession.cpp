@@ -5,8 +5,6 @@
 
 int main(int argc, char **argv)
 {
-    if (argc != 5)
-        return 2;
     const SessionOptions options { { QString::fromLocal8Bit(argv[1]),
                                        QString::fromLocal8Bit(argv[2]),
                                        QString::fromLocal8Bit(argv[3]) },
