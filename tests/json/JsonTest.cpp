@@ -58,7 +58,6 @@ void JsonTest::readsAndWrites()
 
 void JsonTest::writesNoOtherNumbers()
 {
-    QVERIFY(!jsonText(qQNaN()));
     QVERIFY(!jsonText(QVariantList { 1, QVariantList { qInf() } }));
 }
 

@@ -150,7 +150,6 @@ private slots:
         row("as read", R"([false, 0, "A", 7, "v", "value 6"])", true);
         row("as typed", R"([true, 6, 2.5, "9", "x", "value 6"])", true);
         row("too few", R"([false, 0, "A", 7, "v"])", false);
-        row("too many", R"([false, 0, "A", 7, "v", "value 6", 1])", false);
         row("no boolean", R"([1, 0, "A", 7, "v", "value 6"])", false);
         row("no position", R"([false, "", "A", 7, "v", "value 6"])", false);
         row("no option", R"([false, 0, "B", 7, "v", "value 6"])", false);
