@@ -20,8 +20,8 @@ private slots:
         // The input's own time, taken as standard time, which in summer is an hour later.
         row("to summer without", "UTC0", false, "2024-07-01T12:00:00", false,
             "2024-07-01T13:00:00");
-        row("before the epoch, which reads as the last second of 32 bits", "UTC0", false,
-            "1969-12-31T23:00:00", true, "2106-02-07T07:28:15");
+        row("before the epoch: ~0 in 32 bits", "UTC0", false, "1969-12-31T23:00:00", true,
+            sizeof(time_t) > 4 ? "2106-02-07T07:28:15" : "1970-01-01T00:59:59");
         row("to summer from another zone", "EST5", false, "2024-07-01T08:00:00", true,
             "2024-07-01T15:00:00");
     }
