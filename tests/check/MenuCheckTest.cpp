@@ -130,6 +130,7 @@ private slots:
         row("unknown name", good + ";\nnobody.calls()", "{}", "line 2: ReferenceError");
         row("no screens", "Settings = {}", "{}", "defines no screens");
         row("comma", good, "{\"a\": 1,\n\"\xc3\xa4\": 2,}", "line 2, column 8: Missing a name");
+        row("too deep", good, QByteArray(600, '['), "column 513: A number is too large, or");
         row("byte order mark", good, "\xef\xbb\xbf{}", "byte order mark");
         row("array", good, "[]", "is no JSON object");
     }

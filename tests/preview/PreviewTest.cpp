@@ -113,9 +113,6 @@ private slots:
                 list('tanks', 'compBtn'), page('tanksModifyDo', [field('boolean'), to('pumps')]),
                 list('pumps', 'meterBtn'), page('pumpsModifyDo', [field('boolean')]), setup, can]))",
             3 * (2 + 2), 3 * (1 + 2));
-        add("screens as an object", R"(define({ 1: to('page') },
-                [page('page', { x: field('boolean'), y: field('label') })]))",
-            2, 1);
         add("screens with the same words", R"(function same(css, fields) {
                 var made = page('same', fields); made.css = css; return made; }
             define([to('a'), to('b'), to('c')], [same('a', [field('boolean')]),
