@@ -10,7 +10,7 @@ class JsonTest : public QObject {
 private slots:
     void readsAndWrites_data();
     void readsAndWrites();
-    void writesNoOtherNumbers();
+    void refusesWhatIsNoJson();
     void readsValues_data();
     void readsValues();
 };
@@ -56,8 +56,10 @@ void JsonTest::readsAndWrites()
     QTEST(QByteArray(value ? value->typeName() : ""), "type");
 }
 
-void JsonTest::writesNoOtherNumbers()
+void JsonTest::refusesWhatIsNoJson()
 {
+    JsonFault fault;
+    QVERIFY(!parseJson({ "1\0", 2 }, &fault) && fault.reason.startsWith(QLatin1String("A zero")));
     QVERIFY(!jsonText(QVariantList { 1, QVariantMap { { QStringLiteral("a"), qInf() } } }));
 }
 
