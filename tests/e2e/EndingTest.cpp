@@ -48,12 +48,13 @@ private slots:
         Session session;
         QElapsedTimer timer;
         timer.start();
-        QVERIFY(session.startBy(QStringLiteral("exec \"$@\" < /dev/null"), 500));
+        QVERIFY(session.startBy(QStringLiteral("exec \"$@\" < /dev/null"), 2000));
+        QVERIFY(session.hasTitle());
+        session.signal(SIGWINCH);
         QCOMPARE(session.waitForExit(), endedWell);
-        QVERIFY(timer.elapsed() >= 500);
+        QVERIFY(timer.elapsed() >= 2000);
         // One redraw for the end of input, not one after the other until the session ends.
-        const int size = session.bytesSinceMark().size();
-        QVERIFY(size > 100 && size < 2000);
+        QVERIFY(session.bytesSinceMark().size() < 2000);
     }
 
     void deathBySignal_data()
@@ -101,7 +102,6 @@ private slots:
         row("before the first frame", script, hang, {});
         row("opening", script, toolThatReadsBy(hang), { Key::enter });
         row("lone ESC", script, goodTool, { "\x1b" });
-        row("half a sequence", script, goodTool, { "\x1b[5" });
         row("edit field", script, goodTool, keysToEditField);
         row("diagnose screen", script, goodTool, keysToDiagnoseScreen);
         row("endless script", "for (;;) ;", goodTool, {});
