@@ -1,5 +1,5 @@
 // Plays random keys, sizes and faults of the tool against the console and checks its screen after
-// each. DRAVIKON_TEST_SESSIONS, _KEYS and _SEED in the environment ask for more of them.
+// each. DRAVIKON_TEST_SESSIONS, _KEYS and _SEED in the environment ask for others than the usual.
 #include "tests/e2e/Session.h"
 #include "tests/support/Rows.h"
 #include "tests/support/ScreenNotation.h"
@@ -81,8 +81,9 @@ private slots:
     void staySound_data()
     {
         const Rows<int> row("seed");
-        const int sessions = qMax(6, qEnvironmentVariableIntValue("DRAVIKON_TEST_SESSIONS"));
-        const int seed = qMax(1, qEnvironmentVariableIntValue("DRAVIKON_TEST_SEED"));
+        const int sessions =
+            qEnvironmentVariable("DRAVIKON_TEST_SESSIONS", QStringLiteral("6")).toInt();
+        const int seed = qEnvironmentVariable("DRAVIKON_TEST_SEED", QStringLiteral("1")).toInt();
         for (int i = seed; i < seed + sessions; ++i)
             row("seed " + QByteArray::number(i), i);
     }
@@ -103,7 +104,7 @@ private slots:
             return folder.entryList(QDir::Files | QDir::System).size();
         };
         const int ownDescriptors = descriptors();
-        const int steps = qMax(150, qEnvironmentVariableIntValue("DRAVIKON_TEST_KEYS"));
+        const int steps = qEnvironmentVariable("DRAVIKON_TEST_KEYS", QStringLiteral("150")).toInt();
         QByteArray fault = "none";
         QFile faultFile(session->device.paths().webRoot + QStringLiteral("/fault"));
         for (int step = 0, rare = seed; step < steps; ++step) {
