@@ -62,8 +62,7 @@ private slots:
         row("field with entries", "[screen('r', [{i18n: 'F', screens: [field('G')]}])]", "r(F)");
         row("length of an array", "[screen('r', [field('F')]), {css: '', i18n: 'X'}]", "r(F X)");
         row("below itself",
-            "[screen('r', [to('a')]), screen('a', [to('b'), field('F')]), "
-            "screen('b', [to('a')])]",
+            "[screen('r', [to('a')]), screen('a', [to('b'), field('F')]), screen('b', [to('a')])]",
             "r(a(b F))", "below itself: \"a\"");
         row("root below itself", "[screen('r', [to('r'), field('F')])]", "r(F)", "itself: \"r\"");
         row("two ways", "[screen('r', [to('a'), to('b')]), screen('a', [to('b')]), to('b')]",
@@ -93,9 +92,8 @@ private slots:
         row("no entry for the count", "[screen('btnParameterTruckSetup', [])]",
             "btnParameterTruckSetup", "^!searchIndexFound$");
         row("no binding",
-            "[to('r'), screen('btnParameterTruckSetup', "
-            "[field('truck_setup_compartments')])]",
-            "r", "^!ajaxRead.isValid\\(\\)$");
+            "[to('r'), screen('btnParameterTruckSetup', [field('truck_setup_compartments')])]", "r",
+            "^!ajaxRead.isValid\\(\\)$");
 
         row("same words for both counts",
             "[meters('m', []), to('mModifyDo'), compartmentCount('[1, 2]'), meterCount('[1, 2]')]",
@@ -132,9 +130,9 @@ private slots:
             "for (var i = 0; i < 100000; i++) { s.push(to(i)); s[0].screens.push(to(i)) }",
             "100000");
         row("450 references to 450 references",
-            "0; var many = [], more = []; Settings.settings = [screen('r', many), screen('a', "
-            "more),"
-            "to('b')]; for (var i = 0; i < 450; i++) { many.push(to('a')); more.push(to('b')) }",
+            "0; var many = [], more = [];"
+            "for (var i = 0; i < 450; i++) { many.push(to('a')); more.push(to('b')) }"
+            "Settings.settings = [screen('r', many), screen('a', more), to('b')]",
             "200000", "too large");
         row("each below the one before",
             "0; var s = Settings.settings = [screen('r', [to(0)])];"
