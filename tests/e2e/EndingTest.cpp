@@ -50,7 +50,7 @@ private slots:
         timer.start();
         QVERIFY(session.startBy(QStringLiteral("exec \"$@\" < /dev/null"), 2000));
         QVERIFY(session.hasTitle());
-        session.signal(SIGWINCH);
+        session.signal(SIGWINCH); // the wait that it interrupts still ends in time
         QCOMPARE(session.waitForExit(), endedWell);
         QVERIFY(timer.elapsed() >= 2000);
         // One redraw for the end of input, not one after the other until the session ends.

@@ -1,5 +1,5 @@
-// Plays transcripts of sessions: transcript-test [--rewrite] FILE... With --rewrite it
-// writes what it sees into the files, for a person to read in the difference to before.
+// Plays transcripts of sessions: transcript-test [--rewrite] FILE... With --rewrite it writes
+// what it sees into the files, for a person to read in the difference to before.
 #include "tests/e2e/TranscriptPlayer.h"
 
 #include <QRegularExpression>

@@ -8,6 +8,7 @@ struct ProgramResult {
     QByteArray output; ///< what it printed on standard output
 };
 
+/// Runs `program`, a path or name; one that cannot be executed exits with 127.
 inline ProgramResult runProgram(const QString &program, const QStringList &arguments)
 {
     PtySession session;
