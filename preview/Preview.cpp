@@ -4,6 +4,7 @@
 #include "check/FileFault.h"
 #include "check/MenuCheck.h"
 #include "check/QuietMessages.h"
+#include "preview/DisposableDirectory.h"
 #include "preview/SimulatedDevice.h"
 #include "preview/SimulatedTool.h"
 
@@ -11,10 +12,10 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 
 #include <Version.h>
 
+#include <csignal>
 #include <cstdio>
 #include <limits>
 #include <optional>
@@ -187,6 +188,8 @@ int runOn(const QString &tool, const PreviewOptions &options, char *program)
     int argc = 1;
     char *argv[] = { program, nullptr };
     const int status = runSession(argc, argv, session);
+    // The session's handler only ends sessions; Ctrl-C is to end the report, too.
+    std::signal(SIGINT, SIG_DFL);
     reportProblems(session.paths);
     return status;
 }
@@ -217,8 +220,9 @@ int runPreview(int argc, char **argv, const PreviewDefaults &defaults)
         return runOn(options.tool, options, argv[0]);
     if (!options.stateDirectory.isEmpty())
         return runOnSimulatedDevice(options.stateDirectory, options, argv[0]);
-    const QTemporaryDir directory(QDir::tempPath() + QLatin1String("/dravikon-preview-XXXXXX"));
-    if (!directory.isValid())
+    const QString directory =
+        makeDisposableDirectory(QDir::tempPath() + QLatin1String("/dravikon-preview-XXXXXX"));
+    if (directory.isEmpty())
         return failure(QStringLiteral("cannot make a directory in ") + QDir::tempPath(), NoDevice);
-    return runOnSimulatedDevice(directory.path(), options, argv[0]);
+    return runOnSimulatedDevice(directory, options, argv[0]);
 }

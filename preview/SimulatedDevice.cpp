@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <csignal>
 
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -17,17 +18,19 @@ namespace {
 
 const QString toolName = QStringLiteral("DBusController");
 
-// A script engine has a thread, which must not take signals that are for the session. Meanwhile
-// Ctrl-C ends `work`, for instance a script without an end, and this program cleans up.
+// The script engine's thread must not be one of the session's process. A script may run without
+// end, so the process ends with its parent.
 template <typename Work> bool inOwnProcess(const Work &work)
 {
+    std::signal(SIGCHLD, SIG_DFL); // or it may be ignored, and the exit status is lost
+    const pid_t parent = getpid();
     const pid_t process = fork();
-    if (process == 0)
-        _exit(work() ? 0 : 1);
-    auto *const formerAction = std::signal(SIGINT, SIG_IGN);
+    if (process == 0) {
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        _exit(getppid() == parent && work() ? 0 : 1);
+    }
     int status = 1;
     while (process > 0 && waitpid(process, &status, 0) < 0 && errno == EINTR) { }
-    std::signal(SIGINT, formerAction);
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
@@ -52,10 +55,9 @@ QString makeSimulatedDevice(const QString &directory, const QString &program,
         const QuietMessages quiet;
         return saveState(state, deviceFromMenu(paths, known, wishes));
     });
-    return isMade ? QString()
-                  : state
-            + QStringLiteral(" was not made: cannot write it, or the settings script "
-                             "was interrupted");
+    return isMade
+        ? QString()
+        : state + QStringLiteral(" was not made: cannot write it, or the settings script crashed");
 }
 
 QString simulatedTool(const QString &directory)

@@ -3,9 +3,12 @@
 #include "preview/MenuValues.h"
 #include "preview/SimulatedDevice.h"
 #include "render/ValueDialog.h"
+#include "terminal/Keys.h"
 #include "tests/support/FakeDevice.h"
 #include "tests/support/Rows.h"
 #include "tests/support/RunProgram.h"
+
+#include <csignal>
 
 // Screens that read and write a group called as their css.
 static const char helpers[] = R"(
@@ -25,6 +28,11 @@ var setup = page('btnParameterTruckSetup', [field('label'), count('truck_setup_c
 var can = page('btnParameterInterfacesCanFasWm', [count('interfaces_can_fas_wm_fpi')]);
 function define(start, screens) { Settings = { settings: [{ screens: start }].concat(screens) }; }
 )";
+
+// When a preview is ended.
+enum Moment { MakingTheDevice, InTheMenu, OnAStuckTerminal, Reporting };
+Q_DECLARE_METATYPE(Moment)
+Q_DECLARE_METATYPE(ExitStatus)
 
 class PreviewTest : public QObject {
     Q_OBJECT
@@ -217,6 +225,64 @@ private slots:
         const auto calls = QStringLiteral("%1 set_menu seal 2 '%2'; %1 'get_menu seal 2'");
         QCOMPARE(shellOutput(calls.arg(tool, QString::fromLatin1(values.trimmed()))),
             "[true]\n" + values);
+    }
+
+    void leavesNothing_data()
+    {
+        const Rows<Moment, int, ExitStatus> row("moment", "number", "end");
+        const auto killedBy = [](int number) { return ExitStatus { ExitStatus::Killed, number }; };
+        const ExitStatus endedWell { ExitStatus::Exited, 0 };
+        row("Ctrl-C in an endless script", MakingTheDevice, SIGINT, killedBy(SIGINT));
+        row("SIGTERM in an endless script", MakingTheDevice, SIGTERM, killedBy(SIGTERM));
+        row("Ctrl-C in the menu", InTheMenu, SIGINT, endedWell);
+        row("hang-up", InTheMenu, SIGHUP, killedBy(SIGHUP));
+        row("SIGTERM", InTheMenu, SIGTERM, killedBy(SIGTERM));
+        row("SIGKILL", InTheMenu, SIGKILL, killedBy(SIGKILL));
+        row("cut off", OnAStuckTerminal, SIGINT, endedWell);
+        row("Ctrl-C in an endless check", Reporting, SIGINT, killedBy(SIGINT));
+    }
+
+    void leavesNothing()
+    {
+        QFETCH(Moment, moment);
+        QFETCH(int, number);
+        files.setTranslations("{}");
+        const QByteArray loop = "for (;;) ;";
+        const QByteArray entry =
+            moment == Reporting ? "get checkIgnore() { " + loop + " }, " : QByteArray();
+        files.setScript(moment == MakingTheDevice
+                ? loop
+                : "Settings = { settings: [{ " + entry + "screens: [{}] }] };");
+        const QTemporaryDir temporary;
+        const QDir directory(temporary.path());
+        PtySession session;
+        session.setStandardError(QStringLiteral("/dev/null"));
+        QVERIFY(session.start(QStringLiteral("/usr/bin/env"),
+            { QStringLiteral("TMPDIR=") + directory.path(), program, QStringLiteral("--web-root"),
+                files.paths().webRoot },
+            24, 80));
+        QVERIFY(session.waitFor([&] { return !directory.isEmpty(); }));
+        QVERIFY(moment == MakingTheDevice || session.waitForText(QStringLiteral("Drav")));
+        if (moment == OnAStuckTerminal) {
+            session.stopOutput();
+            QVERIFY(session.press(Key::down));
+        } else if (moment == Reporting) {
+            const auto isOver = [&] { return (session.attributes().c_lflag & ICANON) != 0; };
+            QVERIFY(session.send("q") && session.waitFor(isOver));
+        }
+        const auto end = [&] {
+            if (number == SIGINT)
+                session.send(Key::interrupt);
+            else
+                session.signal(number);
+            return session.status().state != ExitStatus::Running;
+        };
+        if (number == SIGHUP)
+            session.hangUp();
+        else
+            QVERIFY(session.waitFor(end)); // the end of the session can take the first Ctrl-C
+        QTEST(session.waitForExit(), "end");
+        QTRY_VERIFY(directory.isEmpty());
     }
 
     void reportsProblemsAfterTheSession()
