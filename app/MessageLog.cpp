@@ -1,7 +1,7 @@
 #include "app/MessageLog.h"
 
 #include "app/SystemLog.h"
-#include "app/WriteAtOnce.h"
+#include "platform/WriteAtOnce.h"
 
 #include <QString>
 #include <QtGlobal>

@@ -1,7 +1,7 @@
 // One run of the console: command line, start-up order, exit status.
 #pragma once
 
-#include "device/DevicePaths.h"
+#include "platform/DevicePaths.h"
 
 /// What a session runs on; the product takes the defaults.
 struct SessionOptions {

@@ -3,9 +3,9 @@
 #include "app/TerminalGui.h"
 #include "app/TerminalMode.h"
 #include "app/TerminalOutput.h"
-#include "app/WriteAtOnce.h"
-#include "device/BackendTool.h"
-#include "device/SignalBlocker.h"
+#include "backend/BackendTool.h"
+#include "platform/SignalBlocker.h"
+#include "platform/WriteAtOnce.h"
 #include "render/Screen.h"
 
 #include <QCoreApplication>

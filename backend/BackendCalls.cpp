@@ -1,7 +1,7 @@
 // The tool's wire format: calls with command words, answers and values as JSON arrays.
 #include "menu/ScriptHelper.h"
 
-#include "device/BackendTool.h"
+#include "backend/BackendTool.h"
 #include "json/JsonReader.h"
 #include "json/JsonWriter.h"
 #include "json/Values.h"

@@ -1,7 +1,7 @@
 // The menu of a generated definition, drawn into memory as the session draws it on a terminal.
 #include "bench/MenuSession.h"
 
-#include "device/BackendTool.h"
+#include "backend/BackendTool.h"
 #include "render/Bars.h"
 #include "render/FrameComposer.h"
 #include "render/MenuView.h"

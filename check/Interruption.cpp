@@ -1,6 +1,6 @@
 #include "check/Interruption.h"
 
-#include "device/BackendTool.h"
+#include "backend/BackendTool.h"
 
 #include <csignal>
 

@@ -1,7 +1,7 @@
 // The runs of the backend tool that the checker makes.
 #pragma once
 
-#include "device/BackendTool.h"
+#include "backend/BackendTool.h"
 
 #include <QStringList>
 #include <QVariantList>

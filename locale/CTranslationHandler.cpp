@@ -1,8 +1,8 @@
 #include "locale/CTranslationHandler.h"
 
-#include "device/DevicePaths.h"
 #include "json/JsonReader.h"
 #include "json/Values.h"
+#include "platform/DevicePaths.h"
 
 #include <QDebug>
 #include <QFile>

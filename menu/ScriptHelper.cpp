@@ -1,6 +1,6 @@
 #include "menu/ScriptHelper.h"
 
-#include "device/SignalBlocker.h"
+#include "platform/SignalBlocker.h"
 
 #include <QDebug>
 #include <QFile>

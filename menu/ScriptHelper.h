@@ -1,7 +1,7 @@
 // The script engine with the menu definition, and the calls of the backend tool.
 #pragma once
 
-#include "device/DevicePaths.h"
+#include "platform/DevicePaths.h"
 
 #include <QObject>
 #include <QScriptEngine>

@@ -1,7 +1,7 @@
 // A simulated device for a menu definition, made from the definition itself.
 #pragma once
 
-#include "device/DevicePaths.h"
+#include "platform/DevicePaths.h"
 
 #include <QVariant>
 

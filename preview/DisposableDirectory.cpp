@@ -1,6 +1,6 @@
 #include "preview/DisposableDirectory.h"
 
-#include "device/SignalBlocker.h"
+#include "platform/SignalBlocker.h"
 
 #include <QTemporaryDir>
 

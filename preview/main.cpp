@@ -1,5 +1,5 @@
 // The console on a simulated device for any menu definition.
-#include "device/DevicePaths.h"
+#include "platform/DevicePaths.h"
 #include "preview/Preview.h"
 
 int main(int argc, char **argv)

@@ -1,4 +1,4 @@
-#include "device/BackendTool.h"
+#include "backend/BackendTool.h"
 #include "menu/TreeViewItemHandler.h"
 #include "tests/support/FakeDevice.h"
 #include "tests/support/Rows.h"

@@ -1,7 +1,7 @@
 // A device on disk whose every file the test writes: settings script, translations, backend tool.
 #pragma once
 
-#include "device/DevicePaths.h"
+#include "platform/DevicePaths.h"
 
 #include <QStringList>
 #include <QTemporaryDir>

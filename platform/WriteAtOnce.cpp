@@ -1,4 +1,4 @@
-#include "app/WriteAtOnce.h"
+#include "platform/WriteAtOnce.h"
 
 #include <cerrno>
 

@@ -1,4 +1,4 @@
-#include "device/SignalBlocker.h"
+#include "platform/SignalBlocker.h"
 
 sigset_t signalSet(std::initializer_list<int> numbers)
 {

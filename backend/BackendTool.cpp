@@ -1,7 +1,7 @@
-#include "device/BackendTool.h"
+#include "backend/BackendTool.h"
 
-#include "device/SignalBlocker.h"
-#include "device/ToolProcess.h"
+#include "backend/ToolProcess.h"
+#include "platform/SignalBlocker.h"
 
 #include <QDeadlineTimer>
 

@@ -1,4 +1,4 @@
-#include "device/ToolProcess.h"
+#include "backend/ToolProcess.h"
 
 #include <QFile>
 #include <QVector>
