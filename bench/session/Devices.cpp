@@ -1,111 +1,77 @@
-// The devices that the console is measured on.
 #include "bench/session/Devices.h"
 
-#include <cstdlib>
-#include <fstream>
+#include "bench/session/Program.h"
 
-#include <err.h>
-
-namespace fs = std::filesystem;
+#include <QFile>
 
 namespace {
 
-fs::path makeDirectory()
-{
-    std::string name = fs::temp_directory_path() / "dravikon-bench-XXXXXX";
-    if (!mkdtemp(name.data()))
-        err(EXIT_FAILURE, "%s", name.c_str());
-    return name;
-}
+const QString recorder = QStringLiteral("recorder");
+const QString recordedCalls = QStringLiteral("calls");
 
-// The arguments in a line of the log: a JSON array of texts that contain no quotes.
-Command argumentsIn(const std::string &line)
+// Makes the simulated device and ends.
+void openPreview(QStringList command, const QString &directory)
 {
-    Command arguments;
-    size_t end = 0;
-    for (size_t begin = line.find('"'); begin != std::string::npos; begin = line.find('"', end)) {
-        const size_t close = line.find('"', begin + 1);
-        arguments.push_back(line.substr(begin + 1, close - begin - 1));
-        end = close + 1;
-    }
-    return arguments;
+    command += { QStringLiteral("--state"), directory };
+    Program(command).firstFrame();
 }
 
 } // namespace
 
-void writeFile(const fs::path &path, const std::string &content)
-{
-    std::ofstream(path, std::ios::binary) << content;
-}
-
-TemporaryDirectory::TemporaryDirectory()
-    : path(makeDirectory())
-{
-}
-
-TemporaryDirectory::~TemporaryDirectory()
-{
-    fs::remove_all(path);
-}
-
 DemoDevice::DemoDevice()
 {
-    Program({ DRAVIKON_DEMO, "--state", directory.path }).firstFrame();
-    fs::create_symlink(DRAVIKON_DEMO_WEB "/scripts/settings.js", directory.path / "settings.js");
-    fs::create_symlink(DRAVIKON_DEMO_WEB "/locales", directory.path / "locales");
+    openPreview({ QStringLiteral(DRAVIKON_DEMO) }, files.webRoot());
+    // Each call is a line, each of its arguments ends with a zero byte.
+    files.write(recorder,
+        "#!/bin/sh\nset -e\n{ printf '%s\\0' \"$@\"; echo; } >> \"${0%/*}/calls\"\n"
+        "exec \"${0%/*}/DBusController\" \"$@\"\n");
+    QFile::setPermissions(files.path(recorder), QFile::ReadOwner | QFile::ExeOwner);
 }
 
-Command DemoDevice::console() const
+QStringList DemoDevice::recordedArguments() const
 {
-    return { DRAVIKON_BENCH_CONSOLE, directory.path };
+    return { QStringLiteral(DRAVIKON_DEMO_WEB), files.path(recorder) };
 }
 
-void DemoDevice::recordCalls(bool on)
+QVector<QStringList> DemoDevice::takeCalls()
 {
-    if (on)
-        writeFile(directory.path / "calls.log", {});
-    else
-        fs::remove(directory.path / "calls.log");
-}
-
-std::vector<Command> DemoDevice::takeCalls()
-{
-    std::vector<Command> calls;
-    std::ifstream log(directory.path / "calls.log");
-    for (std::string line; std::getline(log, line);) {
-        Command call = argumentsIn(line);
-        call.insert(call.begin(), directory.path / "DBusController");
-        calls.push_back(std::move(call));
+    QVector<QStringList> calls;
+    QFile log(files.path(recordedCalls));
+    if (!log.open(QIODevice::ReadOnly))
+        return calls;
+    for (const QByteArray &line : log.readAll().split('\n')) {
+        if (!line.isEmpty())
+            calls += QStringList(tool())
+                + QString::fromUtf8(line).split(QChar::Null, Qt::SkipEmptyParts);
     }
-    recordCalls(true);
+    log.remove();
     return calls;
 }
 
 LargeDevice::LargeDevice(int items, Definition definition)
 {
-    const std::string rest = ", remote: 1, inputType: 'edit', validation: 'C20' }";
-    std::string fields;
-    std::string texts = "{ \"dateformat\": \"DD.MM.YYYY\"";
+    const QByteArray rest = ", remote: 1, inputType: 'edit', validation: 'C20' }";
+    QByteArray fields;
+    QByteArray texts = "{ \"dateformat\": \"DD.MM.YYYY\"";
     for (int number = 1; number <= items; ++number) {
-        const std::string key = "field_" + std::to_string(number);
+        const QByteArray digits = QByteArray::number(number);
         if (definition == SpelledOut)
-            fields += "{ i18n: '" + key + '\'' + rest + ",\n";
-        texts += ",\n\"" + key + "\": \"Field number " + std::to_string(number) + '"';
+            fields += "{ i18n: 'field_" + digits + '\'' + rest + ",\n";
+        texts += ",\n\"field_" + digits + "\": \"Field number " + digits + '"';
     }
-    std::string script = "var fields = [" + fields + "];\n";
+    QByteArray script = "var fields = [" + fields + "];\n";
     if (definition == Loop) {
-        script += "for (var number = 1; number <= " + std::to_string(items)
+        script += "for (var number = 1; number <= " + QByteArray::number(items)
             + "; ++number)\n    fields.push({ i18n: 'field_' + number" + rest + ");\n";
     }
-    writeFile(directory.path / "settings.js",
+    files.writeSettings(
         script + "var Settings = { setupStructureVersion: 1, settings: [{ screens: fields }] };\n");
-    fs::create_directories(directory.path / "locales/en");
-    writeFile(directory.path / "locales/en/translation.json", texts + " }\n");
-    fs::copy_file(DRAVIKON_DEMO_STATE, directory.path / "state.json");
-    fs::create_symlink(DRAVIKON_DEMO_TOOL, directory.path / "DBusController");
+    files.writeTranslations(texts + " }\n");
+    openPreview({ QStringLiteral(DRAVIKON_PREVIEW), QStringLiteral("--web-root"), files.webRoot() },
+        files.webRoot());
 }
 
-Command LargeDevice::console() const
+QStringList LargeDevice::arguments() const
 {
-    return { DRAVIKON_BENCH_CONSOLE, directory.path };
+    return { files.webRoot(), files.path(QStringLiteral("DBusController")) };
 }

@@ -1,37 +1,29 @@
 // The devices that the console is measured on.
 #pragma once
 
-#include "bench/session/Program.h"
+#include "bench/DeviceFiles.h"
 
-#include <filesystem>
+#include <QStringList>
+#include <QVector>
 
-/// A temporary directory, removed by the destructor.
-class TemporaryDirectory {
-public:
-    TemporaryDirectory();
-    ~TemporaryDirectory();
-    TemporaryDirectory(const TemporaryDirectory &) = delete;
-    TemporaryDirectory &operator=(const TemporaryDirectory &) = delete;
-
-    const std::filesystem::path path;
-};
-
-/// The simulated device of the demo, with a log of the calls of its tool.
+/// The simulated device of the demo.
 class DemoDevice {
 public:
     DemoDevice();
 
-    /// The console on this device.
-    Command console() const;
+    /// The arguments with which `bench-console` opens this device.
+    QStringList arguments() const { return { QStringLiteral(DRAVIKON_DEMO_WEB), tool() }; }
 
-    /// Starts or stops logging the calls.
-    void recordCalls(bool on);
+    /// The same, but the calls of the tool are recorded.
+    QStringList recordedArguments() const;
 
-    /// The calls logged since the last query, as commands that repeat them.
-    std::vector<Command> takeCalls();
+    /// The calls recorded since the last query, as commands that repeat them.
+    QVector<QStringList> takeCalls();
 
 private:
-    TemporaryDirectory directory;
+    QString tool() const { return files.path(QStringLiteral("DBusController")); }
+
+    DeviceFiles files;
 };
 
 /// A device with a single page of fields.
@@ -42,12 +34,9 @@ public:
 
     LargeDevice(int items, Definition definition);
 
-    /// The console on this device.
-    Command console() const;
+    /// The arguments with which `bench-console` opens this device.
+    QStringList arguments() const;
 
 private:
-    TemporaryDirectory directory;
+    DeviceFiles files;
 };
-
-/// Writes `content` to the file `path`.
-void writeFile(const std::filesystem::path &path, const std::string &content);

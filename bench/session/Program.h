@@ -3,12 +3,9 @@
 
 #include "terminal/PtyProcess.h"
 
-#include <string>
-#include <vector>
+#include <QElapsedTimer>
 
-using Command = std::vector<std::string>;
-
-/// What a program has used since it was started, all its threads together.
+/// What a program has used since it was started, all its threads together; nothing once it ended.
 struct Usage {
     double cpuUs = 0;
     double wakeUps = 0; ///< how often it was given a processor
@@ -19,37 +16,39 @@ struct Usage {
 /// What a program put on its terminal.
 struct Reply {
     double us = 0; ///< from the cause to the last byte
-    std::string bytes;
+    QByteArray bytes;
 };
+
+/// Microseconds since `timer` was started.
+inline double elapsedUs(const QElapsedTimer &timer)
+{
+    return double(timer.nsecsElapsed()) / 1000;
+}
 
 class Program {
 public:
-    /// Starts `command` on a terminal of 80 x 24. A failure ends the benchmark.
-    explicit Program(const Command &command);
+    /// Starts a program, its path or name and its arguments, on a terminal of 80 x 24. Without a
+    /// terminal the benchmark aborts.
+    explicit Program(const QStringList &command);
 
     /// What the program prints until it is silent for `quietMs` and used next to no processor time
-    /// meanwhile; the time counts from its start.
+    /// meanwhile, at most for ten seconds; the time counts from its start.
     Reply firstFrame(int quietMs = 200);
 
-    /// Types a key and returns what the program prints until it is silent for `quietMs`. Nothing
-    /// within half a second is no answer.
-    Reply press(const std::string &key, int quietMs = 30);
+    /// Types a key and returns what the program prints until it is silent for `quietMs`, at most
+    /// for ten seconds. Nothing within half a second is no answer.
+    Reply press(const QByteArray &key, int quietMs = 30);
 
-    bool isRunning();
+    ExitStatus status() { return process.status(); }
+    bool isRunning() { return status().state == ExitStatus::Running; }
     Usage usage() const;
 
-    /// The most memory that was resident at a time, in KiB.
+    /// The most memory that was resident at a time, in KiB; 0 once the program ended.
     double peakMemory() const;
 
 private:
-    void collect(Reply &reply, double startUs, int firstMs, int quietMs);
+    void collect(Reply &reply, const QElapsedTimer &since, int firstMs, int quietMs);
 
     PtyProcess process;
-    double startedUs = 0;
+    QElapsedTimer started;
 };
-
-/// A clock in microseconds.
-double nowUs();
-
-/// The time that `command` takes from its start to its end, its output read from a pipe.
-double runUs(const Command &command);

@@ -1,17 +1,18 @@
 // Statistics of a series of samples.
 #pragma once
 
-#include <algorithm>
-#include <vector>
+#include <QVector>
 
-using Samples = std::vector<double>;
+#include <algorithm>
+
+using Samples = QVector<double>;
 
 /// The quantile `part` (0 to 1) of the samples; 0 without samples.
 inline double quantile(Samples samples, double part)
 {
-    if (samples.empty())
+    if (samples.isEmpty())
         return 0;
-    const auto place = samples.begin() + std::ptrdiff_t(part * double(samples.size() - 1) + 0.5);
+    const auto place = samples.begin() + int(part * (samples.size() - 1) + 0.5);
     std::nth_element(samples.begin(), place, samples.end());
     return *place;
 }
