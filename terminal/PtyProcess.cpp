@@ -98,12 +98,13 @@ bool PtyProcess::send(const QByteArray &bytes)
     return write(master, bytes.constData(), size_t(bytes.size())) == bytes.size();
 }
 
-QByteArray PtyProcess::read(int timeoutMs)
+QByteArray PtyProcess::read(int timeoutMs, int limit)
 {
     if (!isReadable(master, timeoutMs))
         return {};
-    char buffer[4096];
-    return { buffer, int(qMax<ssize_t>(0, ::read(master, buffer, sizeof buffer))) };
+    QByteArray bytes(limit, Qt::Uninitialized);
+    bytes.truncate(int(qMax<ssize_t>(0, ::read(master, bytes.data(), size_t(limit)))));
+    return bytes;
 }
 
 bool PtyProcess::isWaiting()

@@ -33,8 +33,9 @@ public:
 
     /// Sends all bytes at once. False when the terminal does not take them.
     bool send(const QByteArray &bytes);
-    /// The next output of the process, up to 4 KiB; empty when none comes in time.
-    QByteArray read(int timeoutMs);
+    /// The next output of the process, at most `limit` bytes; empty when none comes in time. A
+    /// negative time waits without an end.
+    QByteArray read(int timeoutMs, int limit = 4096);
     /// True when the process has read all input, sleeps, and all its output is taken; also when it
     /// has ended.
     bool isWaiting();

@@ -39,6 +39,11 @@ public:
     /// for ten seconds. Nothing within half a second is no answer.
     Reply press(const QByteArray &key, int quietMs = 30);
 
+    /// Types a key and waits for nothing.
+    void send(const QByteArray &key) { process.send(key); }
+    /// The next output, up to `limit` bytes; empty when none comes in time.
+    QByteArray read(int timeoutMs, int limit) { return process.read(timeoutMs, limit); }
+
     ExitStatus status() { return process.status(); }
     bool isRunning() { return status().state == ExitStatus::Running; }
     Usage usage() const;

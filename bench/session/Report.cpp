@@ -1,5 +1,6 @@
 #include "bench/session/Report.h"
 
+#include "bench/session/HeldKey.h"
 #include "bench/session/RunTime.h"
 #include "terminal/Keys.h"
 
@@ -41,6 +42,8 @@ Report::Report(const Options &options)
     , tools(recordRuns(QStringLiteral(DRAVIKON_BENCH_CONSOLE), demo))
 {
     addConsole(QStringLiteral("console"), QStringLiteral(DRAVIKON_BENCH_CONSOLE));
+    if (!options.consoleBefore.isEmpty())
+        addConsole(QStringLiteral("before"), options.consoleBefore);
     consoleCount = subjects.size();
     for (const QStringList &other : options.others)
         subjects += { other.first(), other, Key::escape };
@@ -157,6 +160,16 @@ void Report::printCosts(const QVector<Keys> &keys, const Keys &floor) const
     for (int i = 0; i < subjects.size(); ++i) {
         if (keys.at(i).hasEnded)
             std::printf("%s ended after a key\n", qPrintable(subjects.at(i).name));
+    }
+}
+
+void Report::printHeldKeys()
+{
+    heading("Down held 2 s, 960 bytes/s", "overrun s    bytes");
+    for (const Subject &subject : subjects) {
+        const HeldKey held = measureHeldDown(subject);
+        std::printf(
+            "%-34.34s %9.2f %8d\n", qPrintable(subject.name), held.overrunMs / 1000, held.bytes);
     }
 }
 

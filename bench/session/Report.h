@@ -8,6 +8,7 @@
 struct Options {
     int runs = 30;
     int keys = 100;
+    QString consoleBefore; ///< `bench-console` of another build; empty for none
     QVector<QStringList> others; ///< commands of other programs
 };
 
@@ -19,6 +20,7 @@ public:
 
     void printStarts();
     void printKeys();
+    void printHeldKeys();
     void printIdle();
 
 private:

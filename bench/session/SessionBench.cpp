@@ -42,14 +42,18 @@ QString readOptions(Options &options)
     QCommandLineParser parser;
     const QCommandLineOption runs = numberOption("runs", "Start everything N times.", options.runs);
     const QCommandLineOption keys = numberOption("keys", "Type each key N times.", options.keys);
+    const QCommandLineOption before(QStringLiteral("before"),
+        QStringLiteral("Measure FILE, too, the bench-console of another build."),
+        QStringLiteral("FILE"));
     parser.setApplicationDescription(description);
-    parser.addOptions({ runs, keys });
+    parser.addOptions({ runs, keys, before });
     parser.addHelpOption();
     parser.addPositionalArgument(QStringLiteral("COMMAND"), {}, syntax);
     parser.process(arguments);
 
     options.runs = parser.value(runs).toInt();
     options.keys = parser.value(keys).toInt();
+    options.consoleBefore = parser.value(before);
     if (options.runs <= 0 || options.keys <= 0)
         return QStringLiteral("--runs and --keys take a number above 0");
     if (!parser.positionalArguments().isEmpty() || options.others.contains({}))
@@ -77,6 +81,7 @@ int main(int argc, char **argv)
     Report report(options);
     report.printStarts();
     report.printKeys();
+    report.printHeldKeys();
     report.printIdle();
     return 0;
 }
