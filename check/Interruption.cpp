@@ -4,22 +4,12 @@
 
 #include <csignal>
 
-#include <pthread.h>
-
 namespace {
 
-pthread_t mainThread;
-
-// The main thread blocks signals while it starts a tool; the script engine's thread does not and
-// would not find the tool yet.
 void endWithTool(int number)
 {
-    if (pthread_equal(pthread_self(), mainThread) == 0) {
-        pthread_kill(mainThread, number);
-        return;
-    }
     BackendTool::killRunning();
-    // Ends the program as soon as the handler returns, which blocks the signal.
+    // The signal is blocked while its handler runs; it ends the program when the handler returns.
     std::signal(number, SIG_DFL);
     std::raise(number);
 }
@@ -28,7 +18,6 @@ void endWithTool(int number)
 
 void killToolOnInterruption()
 {
-    mainThread = pthread_self();
     for (const int number : { SIGINT, SIGTERM, SIGHUP, SIGQUIT }) {
         // Who started the program may have it ignore some, as nohup does.
         if (std::signal(number, endWithTool) == SIG_IGN)
