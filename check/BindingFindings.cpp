@@ -1,10 +1,10 @@
-#include "check/Findings.h"
+#include "check/BindingFindings.h"
 
 #include <algorithm>
 
 namespace {
 
-// A field of the screen itself that is shown with a value; what a reference leads to is not.
+// A visible field with a value. References have values, too, but seldom use them.
 bool showsValue(const TreeViewItemHandler &handler, const TreeViewItem &child)
 {
     return !child.referringEntry.isValid() && handler.isVisible(child)
@@ -20,24 +20,19 @@ Findings readFindings(const TreeViewItemHandler &handler, const TreeViewItem &it
     // Values are read when a screen is opened, and the start page always is.
     if (!item.parentItem && (hasBinding || hasValues)) {
         return { error("no-read",
-            QStringLiteral("the start page is never read, its fields stay empty; move them to a "
-                           "screen of their own")) };
+            "the start page is never read, its fields stay empty; move them to a screen of their "
+            "own") };
     }
     if (hasBinding && children.empty()) {
         return { warning("dead-read",
-            QStringLiteral("its \"ajax-read\" is never used, as there is nothing to open; add the "
-                           "items that it reads, or remove it")) };
+            "its \"ajax-read\" is never used, as there is nothing to open; add the items that it "
+            "reads, or remove it") };
     }
     if (!hasBinding && hasValues) {
-        return { error("no-read",
-            QStringLiteral("its fields are never read and stay empty; add an \"ajax-read\"")) };
+        return { error(
+            "no-read", "its fields are never read and stay empty; add an \"ajax-read\"") };
     }
     return {};
-}
-
-bool hasQuote(const QString &words)
-{
-    return words.contains(QLatin1Char('"')) || words.contains(QLatin1Char('\''));
 }
 
 } // namespace
@@ -51,16 +46,24 @@ Findings bindingFindings(const TreeViewItemHandler &handler, const TreeViewItem 
     if (!handler.writeBinding(item)
         && std::any_of(item.children.cbegin(), item.children.cend(), isEditable)) {
         findings << error("no-write",
-            QStringLiteral("what is edited in it is not stored; add an \"ajax-write\", or give its "
-                           "items \"remote\" 2"));
+            "what is edited in it is not stored; add an \"ajax-write\", or give its items "
+            "\"remote\" 2");
     }
     for (const auto &words : { handler.readBinding(item), handler.writeBinding(item) }) {
-        if (words && hasQuote(*words)) {
+        if (words && (words->contains(QLatin1Char('"')) || words->contains(QLatin1Char('\'')))) {
             findings << error("quotes",
-                QStringLiteral("the words are split at blanks, and the quotes in <%1> reach the "
-                               "tool; remove them")
-                    .arg(*words));
+                "the words are split at blanks, and the quotes in <%1> reach the tool; remove them",
+                *words);
         }
     }
     return findings;
+}
+
+Findings hiddenReadFindings(const TreeViewItemHandler &handler, const TreeViewItem &screen)
+{
+    if (!handler.readBinding(screen))
+        return {};
+    return { warning("hidden-read",
+        "its \"ajax-read\" is never used, as no reference shows it; give one \"remote\" 1, or the "
+        "screen \"remote\" 0") };
 }

@@ -1,7 +1,6 @@
-#include "check/DeviceFindings.h"
-#include "json/JsonReader.h"
-#include "json/JsonWriter.h"
-#include "json/Values.h"
+#include "check/CallFindings.h"
+
+#include "check/Answer.h"
 
 #include <QFileInfo>
 
@@ -14,18 +13,12 @@ QString durationText(qint64 ms)
     return QString::number(double(ms) / 1000, 'f', 1);
 }
 
-// Decoded as the console does it.
-std::optional<QVariant> valueOf(const ToolCall &call, JsonFault *fault)
-{
-    return parseJson(QString::fromUtf8(call.output).toUtf8(), fault);
-}
-
 QString whyNoArray(const ToolCall &call)
 {
     if (call.output.trimmed().isEmpty())
         return QStringLiteral("printed nothing; it failed, or does not know these words");
     JsonFault fault;
-    if (valueOf(call, &fault))
+    if (jsonOf(call, &fault))
         return QStringLiteral("printed JSON that is no array; put the values between [ and ]");
     return QStringLiteral("printed no JSON, ") + fault.text();
 }
@@ -37,22 +30,18 @@ Findings runFindings(const ToolCalls &calls, const QStringList &arguments)
     const QFileInfo tool(calls.tool);
     if (!tool.isFile() || !tool.isExecutable()) {
         return { error("no-tool",
-            QStringLiteral("<%1> was not asked, as the tool cannot be started; correct its path or "
-                           "permissions")
-                .arg(shownCall(arguments))) };
+            "<%1> was not asked, as the tool cannot be started; correct its path or permissions",
+            shownCall(arguments)) };
     }
     if (call.durationMs >= calls.patienceMs) {
         return { error("hanging-call",
-            QStringLiteral(
-                "<%1> did not end within %2 s and was killed; what it printed until then "
-                "is its answer")
-                .arg(shownCall(arguments), durationText(calls.patienceMs))) };
+            "<%1> did not end within %2 s and was killed; what it printed until then is its answer",
+            shownCall(arguments), durationText(calls.patienceMs)) };
     }
     if (call.durationMs > slowMs) {
         return { warning("slow-call",
-            QStringLiteral("<%1> took %2 s, and the console waits for it; answer within a few ten "
-                           "milliseconds")
-                .arg(shownCall(arguments), durationText(call.durationMs))) };
+            "<%1> took %2 s, and the console waits for it; answer within a few ten milliseconds",
+            shownCall(arguments), durationText(call.durationMs)) };
     }
     return {};
 }
@@ -65,33 +54,12 @@ bool isDead(const Findings &ofRun)
 
 } // namespace
 
-bool isNumber(const QVariant &value)
-{
-    bool isNumber = false;
-    value.toDouble(&isNumber);
-    return isNumber && value.type() != QVariant::Bool;
-}
-
-QString shownValue(const QVariant &value)
-{
-    return value.type() == QVariant::Double
-        ? textOf(value)
-        : QString::fromLatin1(jsonText(value).value_or(QByteArray()));
-}
-
-std::optional<QVariantList> answerOf(const ToolCall &call)
-{
-    const QVariant value = valueOf(call, nullptr).value_or(QVariant());
-    return value.type() == QVariant::List ? std::make_optional(value.toList()) : std::nullopt;
-}
-
 Findings callFindings(const ToolCalls &calls, const QStringList &arguments)
 {
     Findings findings = runFindings(calls, arguments);
     const ToolCall &call = *calls.find(arguments);
     if (!isDead(findings) && !answerOf(call)) {
-        findings << error(
-            "no-array", QStringLiteral("<%1> %2").arg(shownCall(arguments), whyNoArray(call)));
+        findings << error("no-array", "<%1> %2", shownCall(arguments), whyNoArray(call));
     }
     return findings;
 }
@@ -102,10 +70,9 @@ Findings versionFindings(const ToolCalls &calls, const QStringList &arguments)
     const QByteArray output = calls.find(arguments)->output;
     if (!isDead(findings) && output.split('/').first().trimmed().isEmpty()) {
         findings << warning("no-tool-version",
-            QStringLiteral(
-                "<%1> printed no text before the first \"/\", so the bottom row shows no "
-                "version; print one")
-                .arg(shownCall(arguments)));
+            "<%1> printed no text before the first \"/\", so the bottom row shows no version; "
+            "print one",
+            shownCall(arguments));
     }
     return findings;
 }

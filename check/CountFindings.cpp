@@ -1,10 +1,20 @@
-#include "check/Findings.h"
+#include "check/CountFindings.h"
+
+#include "check/Answer.h"
 #include "menu/CountEntry.h"
 #include "menu/RepeatedScreen.h"
 
 #include <QScriptValueIterator>
 
+#include <cmath>
+
 namespace {
+
+bool isCount(const QVariant &value)
+{
+    const double number = value.toDouble();
+    return isNumber(value) && number >= 0 && number <= 999 && std::trunc(number) == number;
+}
 
 bool hasValuesUpTo(int place, const LoadedMenu &menu, const QScriptValue &screen)
 {
@@ -22,17 +32,15 @@ Findings findingsOf(const CountEntry &entry, const LoadedMenu &menu, const QScri
 {
     const int place = placeOf(entry, screen, menu.handler.names());
     if (place < 0) {
-        return { error("no-count",
-            QStringLiteral("it has no entry \"%1\", so there are none of these; add it")
-                .arg(QLatin1String(entry.field))) };
+        return { error("no-count", "it has no entry \"%1\", so there are none of these; add it",
+            QLatin1String(entry.field)) };
     }
     if (hasValuesUpTo(place, menu, screen))
         return {};
     return { error("count-place",
-        QStringLiteral(
-            "a separator or button is before the entry \"%1\", and the console counts it "
-            "when it looks up that number; move the entry to the front")
-            .arg(QLatin1String(entry.field))) };
+        "a separator or button is before the entry \"%1\", and the console counts it when it looks "
+        "up that number; move the entry to the front",
+        QLatin1String(entry.field)) };
 }
 
 } // namespace
@@ -45,9 +53,8 @@ Findings listCountFindings(const LoadedMenu &menu, const TreeViewItem &item)
         || menu.screens.find(QLatin1String(entry.screen)) >= 0)
         return {};
     return { error("no-count",
-        QStringLiteral("its number is not known and it stays empty; add the screen \"%1\" with the "
-                       "entry \"%2\"")
-            .arg(QLatin1String(entry.screen), QLatin1String(entry.field))) };
+        "its number is not known and it stays empty; add the screen \"%1\" with the entry \"%2\"",
+        QLatin1String(entry.screen), QLatin1String(entry.field)) };
 }
 
 Findings countScreenFindings(const LoadedMenu &menu, int screen)
@@ -57,4 +64,16 @@ Findings countScreenFindings(const LoadedMenu &menu, int screen)
             return findingsOf(entry, menu, menu.screens.at(screen));
     }
     return {};
+}
+
+Findings countValueFindings(const QVariantList &answer, int place, const QString &field)
+{
+    if (place < answer.size() && isCount(answer.at(place)))
+        return {};
+    const QString found =
+        place < answer.size() ? shownValue(answer.at(place)) : QStringLiteral("missing");
+    return { error("count-value",
+        "the number \"%1\" is %2, value %3 of the answer; answer a whole number from 0 to 999 "
+        "there",
+        field, found, place + 1) };
 }

@@ -1,8 +1,13 @@
 #include "check/DeviceCheck.h"
 
-#include "check/DeviceFindings.h"
+#include "check/Answer.h"
+#include "check/CallFindings.h"
+#include "check/CountFindings.h"
+#include "check/InterfaceFindings.h"
 #include "check/QuietMessages.h"
 #include "check/Report.h"
+#include "check/SealFindings.h"
+#include "check/ValueFindings.h"
 #include "menu/CountEntry.h"
 #include "menu/TreeBuilder.h"
 
@@ -10,7 +15,7 @@ namespace {
 
 const QStringList versionCall { QStringLiteral("--version") };
 
-// What the list query of a kind is repeated for; the number counts for TAG only.
+// The numbers that the list query of a kind is asked with; only TAG passes them on.
 QVector<int> tagNumbers(InterfaceKind kind)
 {
     return kind == TagInterface ? QVector<int> { 0, 1 } : QVector<int> { 0 };
@@ -56,7 +61,7 @@ private:
             return;
         report.add(item, callFindings(calls, call));
         if (const auto answer = answerOf(*calls.find(call)))
-            report.add(item, countFindings(*answer, place, QLatin1String(entry.field)));
+            report.add(item, countValueFindings(*answer, place, QLatin1String(entry.field)));
     }
 
     void visit(const TreeViewItem &item, bool isShown)
@@ -78,11 +83,20 @@ private:
         if (!answer)
             return;
         report.add(screen, lengthFindings(handler, screen, *answer), screen.index);
-        int place = 0;
+        if (isShown)
+            checkValues(screen, answer->size());
+    }
+
+    // Entries beyond the last of `count` values have none to check.
+    void checkValues(const TreeViewItem &screen, int count)
+    {
         for (const auto &child : screen.children) {
-            if (handler.isValueBearing(*child) && place++ < answer->size() && isShown
-                && handler.isVisible(*child))
-                report.add(*child, storedValueFindings(handler, *child), child->index);
+            if (!handler.isValueBearing(*child))
+                continue;
+            if (--count < 0)
+                return;
+            if (handler.isVisible(*child))
+                report.add(*child, valueFindings(handler, *child), child->index);
         }
     }
 
@@ -95,7 +109,7 @@ private:
                 continue;
             report.add(item, callFindings(calls, call));
             if (const auto answer = answerOf(*calls.find(call)))
-                report.add(item, interfaceFindings(kind, tagNumber, *answer));
+                report.add(item, interfaceAnswerFindings(kind, tagNumber, *answer));
         }
     }
 
@@ -105,7 +119,7 @@ private:
     Report &report;
 };
 
-// What the interface screens below `item` ask for when they are opened.
+// Asks what the interface screens from `item` down ask when they are opened.
 void readInterfaces(TreeViewItemHandler &handler, const TreeViewItem &item)
 {
     if (item.parentItem && !handler.isVisible(item))
@@ -120,38 +134,18 @@ void readInterfaces(TreeViewItemHandler &handler, const TreeViewItem &item)
         readInterfaces(handler, *child);
 }
 
-void readMenu(LoadedMenu &menu, DeviceExtent extent)
+} // namespace
+
+void readDevice(LoadedMenu &menu, DeviceExtent extent)
 {
+    const QuietMessages quiet;
+    menu.repeatScreens(menu.handler.readCounts(menu.screens));
     expandAll(*menu.root);
     menu.handler.refreshValues(*menu.root);
     if (extent == DeviceExtent::Everything) {
         menu.handler.scriptHelper().run(versionCall);
         readInterfaces(menu.handler, *menu.root);
     }
-}
-
-QString summaryLine(const QStringList &arguments, qint64 durationMs)
-{
-    return QStringLiteral("%1 s  %2")
-        .arg(double(durationMs) / 1000, 9, 'f', 3)
-        .arg(shownCall(arguments));
-}
-
-} // namespace
-
-void readDevice(LoadedMenu &menu, ToolCalls &calls, DeviceExtent extent)
-{
-    const QuietMessages quiet;
-    calls.plan([&] {
-        menu.handler.readCounts(menu.screens);
-        readMenu(menu, extent);
-    });
-    // The handler repeats its last answer to an equal count query, and that is an empty one of the
-    // plan; this read takes its place.
-    menu.handler.updateAccessLevel();
-    menu.repeatScreens(menu.handler.readCounts(menu.screens));
-    calls.plan([&] { readMenu(menu, extent); });
-    readMenu(menu, extent);
 }
 
 QStringList deviceProblems(LoadedMenu &menu, const ToolCalls &calls)
@@ -177,19 +171,19 @@ QStringList failedCalls(const ToolCalls &calls)
 
 QStringList callSummary(const ToolCalls &calls)
 {
-    constexpr size_t shownCalls = 5;
-    std::multimap<qint64, QStringList, std::greater<>> slowest;
+    constexpr int shownCalls = 5;
+    std::multimap<qint64, QString, std::greater<>> slowest;
     qint64 total = 0;
-    for (const auto &call : calls.all()) {
-        slowest.emplace(call.second.durationMs, call.first);
-        total += call.second.durationMs;
+    for (const auto &[arguments, call] : calls.all()) {
+        slowest.emplace(call.durationMs, shownCall(arguments));
+        total += call.durationMs;
     }
     QStringList lines { QStringLiteral("%1 calls in %2 s, the slowest:")
                             .arg(slowest.size())
                             .arg(double(total) / 1000, 0, 'f', 1) };
-    for (const auto &call : slowest) {
-        if (size_t(lines.size()) <= shownCalls)
-            lines += summaryLine(call.second, call.first);
+    for (const auto &[durationMs, call] : slowest) {
+        if (lines.size() <= shownCalls)
+            lines += QStringLiteral("%1 s  ").arg(double(durationMs) / 1000, 9, 'f', 3) + call;
     }
     return lines;
 }

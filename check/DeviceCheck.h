@@ -9,12 +9,13 @@ enum class DeviceExtent {
     Everything ///< versions and interface screens as well
 };
 
-/// Reads everything of `extent` from the device; `calls` is what `menu` runs the tool with. The
-/// tree then has the device's compartments and meters and all values, and everything in it is
-/// opened. Nothing is written.
-void readDevice(LoadedMenu &menu, ToolCalls &calls, DeviceExtent extent);
+/// Reads everything of `extent` from the device, by the tool that `menu` was made with. The tree
+/// then has the device's compartments and meters and all values, and everything in it is opened.
+/// Nothing is written.
+void readDevice(LoadedMenu &menu, DeviceExtent extent);
 
-/// The problems of the answers, in the form of `menuProblems`, after everything was read.
+/// The problems of the answers to `calls`, in the form of `menuProblems`, after everything was read
+/// by them.
 QStringList deviceProblems(LoadedMenu &menu, const ToolCalls &calls);
 
 /// The calls that failed, so that values are missing, one a line.

@@ -1,4 +1,6 @@
-#include "check/DeviceFindings.h"
+#include "check/InterfaceFindings.h"
+
+#include "check/Answer.h"
 #include "diagnose/PagedScreen.h"
 #include "diagnose/TagScreen.h"
 #include "json/Values.h"
@@ -6,6 +8,15 @@
 #include <algorithm>
 
 namespace {
+
+bool hasInterfaceCss(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    const QString css = item.definition.property(handler.names().css).toString();
+    bool isFound = false;
+    for (int kind = SpdInterface; wordsOf(InterfaceKind(kind)).css && !isFound; ++kind)
+        isFound = css == QLatin1String(wordsOf(InterfaceKind(kind)).css);
+    return isFound;
+}
 
 bool isText(const QVariant &value)
 {
@@ -105,12 +116,20 @@ QString shapeFault(InterfaceKind kind, int tagNumber, const QVariantList &answer
 
 } // namespace
 
-Findings interfaceFindings(InterfaceKind kind, int tagNumber, const QVariantList &answer)
+Findings interfaceFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    if (!hasInterfaceCss(handler, item) || handler.typeKind(item) == StatusType)
+        return {};
+    return { error("interface-type",
+        "its css is that of an interface screen, which opens only with \"type\" \"status\"; add "
+        "that") };
+}
+
+Findings interfaceAnswerFindings(InterfaceKind kind, int tagNumber, const QVariantList &answer)
 {
     const QString fault = shapeFault(kind, tagNumber, answer);
     if (fault.isEmpty())
         return {};
-    return { error("interface-answer",
-        QStringLiteral("the screen cannot show the answer to <%1>: %2; correct it")
-            .arg(QLatin1String(wordsOf(kind).listQuery), fault)) };
+    return { error("interface-answer", "the screen cannot show the answer to <%1>: %2; correct it",
+        QLatin1String(wordsOf(kind).listQuery), fault) };
 }

@@ -4,7 +4,7 @@
 #include "menu/ScreenIndex.h"
 #include "menu/TreeViewItemHandler.h"
 
-/// The screens and the tree of the definition. No tool is run for it: the tree has one compartment
+/// The screens and the tree of the definition. Making it runs no tool: the tree has one compartment
 /// and one meter, and its items are as editable as with the electronic seal open.
 struct LoadedMenu {
     explicit LoadedMenu(const DevicePaths &paths, const ToolRunner &runTool = {});

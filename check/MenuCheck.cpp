@@ -1,12 +1,36 @@
 #include "check/MenuCheck.h"
 
+#include "check/BindingFindings.h"
+#include "check/CountFindings.h"
+#include "check/EditFindings.h"
+#include "check/InterfaceFindings.h"
+#include "check/ListFindings.h"
+#include "check/ReferenceFindings.h"
 #include "check/Report.h"
+#include "check/ScriptFindings.h"
+#include "check/SliderFindings.h"
+#include "check/SpellingFindings.h"
+#include "check/TextFindings.h"
+#include "check/TypeFindings.h"
 
 #include <QSet>
 
 namespace {
 
 enum class Presence { Shown, HiddenByOmission, HiddenOnPurpose };
+
+// Of the attributes that belong to the item's kind of field.
+Findings fieldFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    const InputKind kind = handler.inputKind(item);
+    if (kind == DropdownInput || kind == SelectLabelInput)
+        return listFindings(handler, item);
+    if (!handler.isEditable(item))
+        return {};
+    if (kind == SliderInput)
+        return sliderFindings(handler, item);
+    return kind == EditInput ? editFindings(handler, item) : Findings();
+}
 
 class MenuCheck {
 public:
@@ -38,12 +62,13 @@ private:
 
         report.add(item, referenceFindings(menu, item.definition));
         report.add(item, selfReferenceFindings(menu, item));
-        report.add(item, wordFindings(handler, item));
+        report.add(item, typeFindings(handler, item));
+        report.add(item, interfaceFindings(handler, item));
         report.add(item, spellingFindings(handler, item));
         report.add(item, listCountFindings(menu, item));
         if (presence == Presence::Shown) {
             report.add(item, bindingFindings(handler, item));
-            report.add(item, valueFindings(handler, item));
+            report.add(item, fieldFindings(handler, item));
             if (item.parentItem)
                 report.add(item, textFindings(handler, item));
         }
@@ -67,15 +92,11 @@ private:
         const TreeViewItem item(definition, {}, nullptr, -1, 0);
         report.add(item, countScreenFindings(menu, screen));
         if (!reached.contains(id)) {
-            report.add(item, { unreachedFinding(menu, screen) });
+            report.add(item, unreachedFindings(menu, screen));
             report.add(item, referenceFindings(menu, definition));
             report.add(item, spellingFindings(handler, item));
-        } else if (!decided.contains(id) && handler.readBinding(item)) {
-            report.add(item,
-                { warning("hidden-read",
-                    QStringLiteral(
-                        "its \"ajax-read\" is never used, as no reference shows it; give "
-                        "one \"remote\" 1, or the screen \"remote\" 0")) });
+        } else if (!decided.contains(id)) {
+            report.add(item, hiddenReadFindings(handler, item));
         }
     }
 

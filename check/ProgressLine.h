@@ -3,15 +3,6 @@
 
 #include <QString>
 
-/// Shows nothing unless standard error is a terminal.
-class ProgressLine {
-public:
-    ProgressLine();
-    /// Shows `text` in place of what was shown before, cut to the terminal's width.
-    void show(const QString &text);
-
-    void clear() { show({}); }
-
-private:
-    const bool isTerminal;
-};
+/// Shows `text` in place of what was shown before, cut to the terminal's width; nothing unless
+/// standard error is a terminal.
+void showProgress(const QString &text);

@@ -27,7 +27,7 @@ void Report::add(const TreeViewItem &item, const Findings &findings, int instanc
     for (const Finding &finding : findings) {
         if (!ignored.contains(finding.name)
             && reported.emplace(item.definition.objectId(), instance, finding.text).second)
-            reportLines.push_back(reportLine(placeOf(item, instance), finding));
+            reportLines.push_back(reportLine(wayTo(item, instance), finding));
     }
 }
 
@@ -40,7 +40,7 @@ void Report::add(const QString &place, const Findings &findings)
     }
 }
 
-QString Report::placeOf(const TreeViewItem &item, int instance) const
+QString Report::wayTo(const TreeViewItem &item, int instance) const
 {
     const PropertyNames &names = menu.handler.names();
     QString css;

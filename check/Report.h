@@ -1,7 +1,8 @@
 // The lines of a report on a menu definition.
 #pragma once
 
-#include "check/Findings.h"
+#include "check/Finding.h"
+#include "check/LoadedMenu.h"
 
 #include <QStringList>
 
@@ -18,9 +19,9 @@ public:
     {
     }
 
-    /// Adds what was found at `item`: its place is the css of its screen and the labels on the way
-    /// to it. What several ways lead to is reported once, but for every compartment or meter
-    /// that is given as `instance`, counted from 0.
+    /// Adds what was found at `item`, with the css of its screen and the labels on the way to it.
+    /// An item that several references lead to is reported once; with `instance`, the number of a
+    /// compartment or meter from 0, once for each of these.
     void add(const TreeViewItem &item, const Findings &findings, int instance = -1);
 
     /// Adds what was found at a file or program.
@@ -29,7 +30,7 @@ public:
     const QStringList &lines() const { return reportLines; }
 
 private:
-    QString placeOf(const TreeViewItem &item, int instance) const;
+    QString wayTo(const TreeViewItem &item, int instance) const;
 
     const LoadedMenu &menu;
     std::set<std::tuple<qint64, int, QString>> reported; ///< definition, instance, text

@@ -1,4 +1,4 @@
-#include "check/Findings.h"
+#include "check/ScriptFindings.h"
 
 namespace {
 
@@ -33,11 +33,11 @@ Findings scriptFindings(LoadedMenu &menu)
 {
     const QString text = scriptError(menu);
     if (!text.isEmpty())
-        return { error("script", text) };
+        return { error("script", "%1", text) };
     if (menu.handler.setupStructureVersion().isEmpty()) {
         return { warning("no-version",
-            QStringLiteral("it has no \"setupStructureVersion\", so the bottom row shows none; add "
-                           "it to \"Settings\"")) };
+            "it has no \"setupStructureVersion\", so the bottom row shows none; add it to "
+            "\"Settings\"") };
     }
     return {};
 }

@@ -1,4 +1,5 @@
-#include "check/Findings.h"
+#include "check/SpellingFindings.h"
+
 #include "menu/RepeatedScreen.h"
 
 #include <QScriptValueIterator>
@@ -44,7 +45,7 @@ Attributes attributesOf(const TreeViewItemHandler &handler, const TreeViewItem &
     return attributes;
 }
 
-// How many characters are to be inserted, removed, replaced or swapped with their neighbour.
+// The number of characters to be inserted, removed, replaced or swapped with their neighbour.
 int editDistance(const QString &from, const QString &to)
 {
     QVector<QVector<int>> distances(from.size() + 1, QVector<int>(to.size() + 1));
@@ -85,6 +86,8 @@ bool hasForm(const QScriptValue &value, Form form)
     return false;
 }
 
+// Words that definitions use for other things and that are close to "remote", "step", "type" and
+// "values".
 bool isOtherWord(const QString &name)
 {
     constexpr std::array<const char *, 4> words = { "remove", "stop", "tyre", "valves" };
@@ -92,8 +95,8 @@ bool isOtherWord(const QString &name)
         [&name](const char *word) { return name == QLatin1String(word); });
 }
 
-// Browsers have attributes of their own, so short words must match but for case and hyphens, and
-// the value must be of the kind that the console expects.
+// The web interface has attributes of its own. So a short name is misspelled only in its case,
+// hyphens or underscores, and the value must be of the kind that the console expects.
 bool isMisspelled(const QString &name, const QScriptValue &value, const Attribute &attribute)
 {
     constexpr int shortWord = 3;
@@ -118,9 +121,8 @@ Findings misspellings(const QScriptValue &definition, const Attributes &attribut
         for (const Attribute &attribute : attributes) {
             if (!definition.property(attribute.name).isValid()
                 && isMisspelled(property.name(), property.value(), attribute)) {
-                findings << warning("misspelled-attribute",
-                    QStringLiteral("\"%1\" has no effect; write \"%2\"")
-                        .arg(property.name(), attribute.name));
+                findings << warning("misspelled-attribute", "\"%1\" has no effect; write \"%2\"",
+                    property.name(), attribute.name);
             }
         }
     }

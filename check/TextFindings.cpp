@@ -1,5 +1,6 @@
-#include "check/Findings.h"
+#include "check/TextFindings.h"
 
+#include "check/Answer.h"
 #include "json/Values.h"
 #include "locale/CTranslationHandler.h"
 #include "render/ForeignText.h"
@@ -27,20 +28,6 @@ bool canBeShown(uint character)
     return character <= 0xff && printable(text) == text;
 }
 
-} // namespace
-
-Findings keyFindings(const QString &what, const QString &key)
-{
-    Findings findings;
-    // Numbers and signs stand for themselves.
-    if (hasLetter(key) && !isTranslated(key)) {
-        findings << warning("untranslated",
-            QStringLiteral("the %1 \"%2\" has no translation; add it to the English table")
-                .arg(what, key));
-    }
-    return findings + characterFindings(what, translate(key));
-}
-
 Findings characterFindings(const QString &what, const QString &text)
 {
     const QVector<uint> characters = text.toUcs4();
@@ -48,12 +35,24 @@ Findings characterFindings(const QString &what, const QString &text)
     if (bad == characters.cend())
         return {};
     return { warning("unshowable",
-        QStringLiteral(
-            "the %1 \"%2\" has the character U+%3, which a Latin-1 terminal cannot show; "
-            "write it otherwise")
-            .arg(what, text,
-                QString::number(*bad, 16).toUpper().rightJustified(4, QLatin1Char('0')))) };
+        "the %1 \"%2\" has the character U+%3, which a Latin-1 terminal cannot show; write it "
+        "otherwise",
+        what, text, QString::number(*bad, 16).toUpper().rightJustified(4, QLatin1Char('0'))) };
 }
+
+// `what` names the text in the report, for example "label".
+Findings keyFindings(const QString &what, const QString &key)
+{
+    Findings findings;
+    // Numbers and signs stand for themselves.
+    if (hasLetter(key) && !isTranslated(key)) {
+        findings << warning("untranslated",
+            "the %1 \"%2\" has no translation; add it to the English table", what, key);
+    }
+    return findings + characterFindings(what, translate(key));
+}
+
+} // namespace
 
 Findings textFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
@@ -62,16 +61,14 @@ Findings textFindings(const TreeViewItemHandler &handler, const TreeViewItem &it
     const QString key = handler.labelKey(item);
     findings += keyFindings(QStringLiteral("label"), key);
     if (key.isEmpty() && kind != SeparatorInput)
-        findings << warning("no-label", QStringLiteral("it has no label; give it an \"i18n\""));
+        findings << warning("no-label", "it has no label; give it an \"i18n\"");
 
     const QString line = menuLines(handler, item, standardColumns).value(0);
     const int surplus = line.size() - valueColumn(standardColumns);
     if (surplus > 0 && kind != SeparatorInput && kind != ButtonInput) {
         findings << warning("wide-label",
-            QStringLiteral("its label reaches %1 columns into the value on a terminal of %2 "
-                           "columns; shorten it")
-                .arg(surplus)
-                .arg(standardColumns));
+            "its label reaches %1 columns into the value on a terminal of %2 columns; shorten it",
+            surplus, standardColumns);
     }
     if (kind == DropdownInput || kind == SelectLabelInput) {
         for (int i = 0, count = handler.valueCount(item); i < count; ++i)
@@ -79,4 +76,16 @@ Findings textFindings(const TreeViewItemHandler &handler, const TreeViewItem &it
                 keyFindings(QStringLiteral("option text"), textOf(handler.valueAt(item, i)));
     }
     return findings;
+}
+
+Findings textValueFindings(const QVariant &value)
+{
+    if (value.type() == QVariant::List || value.type() == QVariant::Map) {
+        return { warning("unshowable",
+            "the value %1 is no text or number and shows nothing; write it otherwise",
+            shownValue(value)) };
+    }
+    const QString key = markedKey(textOf(value));
+    const QString what = QStringLiteral("value");
+    return key.isEmpty() ? characterFindings(what, textOf(value)) : keyFindings(what, key);
 }

@@ -6,27 +6,14 @@ QByteArray ToolCalls::run(const QStringList &arguments)
 {
     if (const ToolCall *const call = find(arguments))
         return call->output;
-    planned.insert(arguments);
-    if (isPlanning)
-        return {};
     if (progress)
-        progress(int(made.size()) + 1, int(planned.size()), arguments);
+        progress(int(made.size()) + 1, arguments);
     QElapsedTimer timer;
     timer.start();
     ToolCall &call = made[arguments];
     call.output = BackendTool::run(tool, arguments, patienceMs);
     call.durationMs = timer.elapsed();
     return call.output;
-}
-
-void ToolCalls::plan(const std::function<void()> &calls)
-{
-    planned.clear();
-    for (const auto &call : made)
-        planned.insert(call.first);
-    isPlanning = true;
-    calls();
-    isPlanning = false;
 }
 
 const ToolCall *ToolCalls::find(const QStringList &arguments) const

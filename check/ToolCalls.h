@@ -3,13 +3,8 @@
 
 #include "backend/BackendTool.h"
 
-#include <QStringList>
-#include <QVariantList>
-
 #include <functional>
 #include <map>
-#include <optional>
-#include <set>
 
 /// One run of the tool.
 struct ToolCall {
@@ -20,9 +15,10 @@ struct ToolCall {
 /// Runs the tool once for each list of arguments and keeps what it prints.
 class ToolCalls {
 public:
-    /// Called before a run: its number from 1, the number of all runs, the arguments.
-    using Progress = std::function<void(int number, int count, const QStringList &arguments)>;
+    /// Called before a run: its number from 1, and the arguments.
+    using Progress = std::function<void(int number, const QStringList &arguments)>;
 
+    /// A tool that still runs after `patienceMs` is killed.
     explicit ToolCalls(
         QString tool, Progress progress = {}, int patienceMs = BackendTool::patienceMs)
         : tool(std::move(tool))
@@ -31,11 +27,8 @@ public:
     {
     }
 
-    /// What the tool prints for `arguments`; nothing while `plan` runs.
+    /// What the tool prints for `arguments`.
     QByteArray run(const QStringList &arguments);
-
-    /// Counts the runs that `calls` will make, for the progress. The tool is not run.
-    void plan(const std::function<void()> &calls);
 
     /// The run with `arguments`, null when there was none.
     const ToolCall *find(const QStringList &arguments) const;
@@ -43,12 +36,10 @@ public:
     const std::map<QStringList, ToolCall> &all() const { return made; }
 
     const QString tool;
-    const int patienceMs; ///< a tool that still runs then is killed
+    const int patienceMs;
 
 private:
     const Progress progress;
-    bool isPlanning = false;
-    std::set<QStringList> planned;
     std::map<QStringList, ToolCall> made;
 };
 

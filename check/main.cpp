@@ -1,4 +1,5 @@
 // The checker of menu definitions, for those who write them.
+#include "check/CommandLine.h"
 #include "check/DeviceCheck.h"
 #include "check/FileFault.h"
 #include "check/Interruption.h"
@@ -6,17 +7,13 @@
 #include "check/ProgressLine.h"
 #include "locale/CTranslationHandler.h"
 
-#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFileInfo>
 
-#include <Version.h>
-
-#include <cstdio>
-
 namespace {
 
-enum ExitStatus { Clean, HasProblems, CannotLoad };
+enum CheckStatus { Clean, HasProblems, CannotLoad };
+static_assert(CannotLoad == wrongUsage, "as the help text says");
 
 const QString description = QStringLiteral(
     "Reports what is wrong with the menu definition of a truck controller's web "
@@ -25,72 +22,66 @@ const QString description = QStringLiteral(
     "Exit status: 0 no problem, 1 problems, 2 wrong usage or files that cannot be "
     "loaded.");
 
-void print(std::FILE *file, const QString &text)
-{
-    std::fprintf(file, "%s\n", text.toLocal8Bit().constData());
-}
-
-void printLines(std::FILE *file, const QStringList &lines)
+void print(std::FILE *file, const QStringList &lines)
 {
     for (const QString &line : lines)
         print(file, line);
-    std::fflush(file);
 }
 
-int failure(const QString &text)
+CheckStatus printMenu(LoadedMenu &menu)
 {
-    print(stderr, QStringLiteral("dravikon-menu-check: ") + text);
-    return CannotLoad;
+    print(stdout, menuOutline(menu));
+    return Clean;
 }
 
-// The whole menu with the device's values. Values that are missing are an error, as the printed
-// menu is made to be compared with another.
-int printRecord(LoadedMenu &menu, ToolCalls &calls, ProgressLine &progress)
+// Values that are missing are an error, as the printed menu is made to be compared with another.
+CheckStatus printDeviceMenu(LoadedMenu &menu, const ToolCalls &calls)
 {
-    readDevice(menu, calls, DeviceExtent::Values);
-    progress.clear();
-    printLines(stdout, menuOutline(menu));
+    readDevice(menu, DeviceExtent::Values);
+    showProgress({});
+    print(stdout, menuOutline(menu));
     const QStringList failed = failedCalls(calls);
-    printLines(stderr, failed);
+    print(stderr, failed);
     return failed.isEmpty() ? Clean : HasProblems;
 }
 
-bool reportDevice(LoadedMenu &menu, ToolCalls &calls, ProgressLine &progress)
+CheckStatus reportMenu(LoadedMenu &menu)
 {
-    readDevice(menu, calls, DeviceExtent::Everything);
-    progress.clear();
+    const QStringList problems = menuProblems(menu);
+    print(stdout, problems);
+    return problems.isEmpty() ? Clean : HasProblems;
+}
+
+CheckStatus reportDevice(LoadedMenu &menu, const ToolCalls &calls)
+{
+    readDevice(menu, DeviceExtent::Everything);
+    showProgress({});
     const QStringList problems = deviceProblems(menu, calls);
-    printLines(stdout, problems);
-    printLines(stderr, callSummary(calls));
-    return !problems.isEmpty();
+    print(stdout, problems);
+    print(stderr, callSummary(calls));
+    return problems.isEmpty() ? Clean : HasProblems;
 }
 
 int check(const DevicePaths &paths, bool wantsDevice, bool wantsTree)
 {
     const QString fault = fileFault(paths);
     if (!fault.isEmpty())
-        return failure(QStringLiteral("cannot load ") + fault);
+        return failure(CannotLoad, QStringLiteral("cannot load ") + fault);
     CTranslationHandler::setInstanceRoot(paths.webRoot);
-    ProgressLine progress;
-    ToolCalls calls(
-        paths.backendTool, [&progress](int number, int count, const QStringList &arguments) {
-            progress.show(
-                QStringLiteral("%1 of %2: ").arg(number).arg(count) + shownCall(arguments));
-        });
+    ToolCalls calls(paths.backendTool, [](int number, const QStringList &arguments) {
+        showProgress(QStringLiteral("%1: %2").arg(number).arg(shownCall(arguments)));
+    });
     LoadedMenu menu(paths, [&calls](const QStringList &arguments) { return calls.run(arguments); });
-    const bool hasMenu = !menu.root->children.empty();
+    if (menu.root->children.empty())
+        return reportMenu(menu);
+    if (wantsTree && !wantsDevice)
+        return printMenu(menu);
     if (wantsDevice)
         killToolOnInterruption();
-    if (wantsTree && hasMenu && wantsDevice)
-        return printRecord(menu, calls, progress);
-    if (wantsTree && hasMenu) {
-        printLines(stdout, menuOutline(menu));
-        return Clean;
-    }
-    const QStringList problems = menuProblems(menu);
-    printLines(stdout, problems);
-    const bool hasDeviceProblems = wantsDevice && hasMenu && reportDevice(menu, calls, progress);
-    return problems.isEmpty() && !hasDeviceProblems ? Clean : HasProblems;
+    if (wantsTree)
+        return printDeviceMenu(menu, calls);
+    const CheckStatus ofMenu = reportMenu(menu);
+    return wantsDevice ? qMax(ofMenu, reportDevice(menu, calls)) : ofMenu;
 }
 
 } // namespace
@@ -98,6 +89,7 @@ int check(const DevicePaths &paths, bool wantsDevice, bool wantsTree)
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("dravikon-menu-check"));
     QCommandLineParser parser;
     parser.setApplicationDescription(description);
     const QCommandLineOption webRoot(QStringLiteral("web-root"),
@@ -112,25 +104,12 @@ int main(int argc, char **argv)
     const QCommandLineOption tool(QStringLiteral("tool"),
         QStringLiteral("The backend tool that --device runs."), QStringLiteral("PATH"),
         DevicePaths().backendTool);
-    const QCommandLineOption help(QStringLiteral("help"), QStringLiteral("Print this text."));
-    const QCommandLineOption version(
-        QStringLiteral("version"), QStringLiteral("Print the version."));
-    parser.addOptions({ webRoot, tree, device, tool, help, version });
+    parser.addOptions({ webRoot, tree, device, tool });
 
-    if (!parser.parse(QCoreApplication::arguments()))
-        return failure(parser.errorText());
-    if (!parser.positionalArguments().isEmpty())
-        return failure(QStringLiteral("unexpected ") + parser.positionalArguments().first());
-    if (parser.isSet(help)) {
-        print(stdout, parser.helpText());
-        return Clean;
-    }
-    if (parser.isSet(version)) {
-        print(stdout, QStringLiteral("dravikon-menu-check ") + consoleVersion);
-        return Clean;
-    }
+    if (const std::optional<int> status = parseCommandLine(parser))
+        return *status;
     if (parser.isSet(tool) && !parser.isSet(device))
-        return failure(QStringLiteral("--tool is for --device"));
+        return failure(wrongUsage, QStringLiteral("--tool is for --device"));
     DevicePaths paths { parser.value(webRoot) };
     paths.backendTool = QFileInfo(parser.value(tool)).absoluteFilePath();
     return check(paths, parser.isSet(device), parser.isSet(tree));

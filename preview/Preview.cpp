@@ -1,6 +1,7 @@
 #include "preview/Preview.h"
 
 #include "app/Session.h"
+#include "check/CommandLine.h"
 #include "check/FileFault.h"
 #include "check/MenuCheck.h"
 #include "check/QuietMessages.h"
@@ -8,21 +9,17 @@
 #include "preview/SimulatedDevice.h"
 #include "preview/SimulatedTool.h"
 
-#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
 #include <QStandardPaths>
 
-#include <Version.h>
-
 #include <csignal>
-#include <cstdio>
 #include <limits>
 #include <optional>
 
 namespace {
 
-enum ExitStatus { Success, NoDevice, WrongUsage };
+constexpr int noDevice = 1;
 
 struct PreviewOptions {
     QString webRoot;
@@ -37,17 +34,6 @@ const QString description = QStringLiteral(
     "Opens the console on the menu definition of a web interface, with a simulated device\n"
     "that is made from the definition. After the session reports on standard error what is\n"
     "wrong with the definition, as dravikon-menu-check does.");
-
-void print(std::FILE *file, const QString &text)
-{
-    std::fprintf(file, "%s\n", text.toLocal8Bit().constData());
-}
-
-int failure(const QString &text, ExitStatus status)
-{
-    print(stderr, QStringLiteral("dravikon-preview: ") + text);
-    return status;
-}
 
 void addOptions(QCommandLineParser &parser)
 {
@@ -65,8 +51,6 @@ void addOptions(QCommandLineParser &parser)
         "DIR");
     add("idle", "End after MS milliseconds without a key (default 180000).", "MS");
     add("tool", "Run FILE as the backend tool; there is no simulated device then.", "FILE");
-    add("help", "Print this text.");
-    add("version", "Print the version.");
 }
 
 // Each of these takes an option that may be missing and returns what is wrong with its value.
@@ -125,8 +109,6 @@ QString takeOptions(const QCommandLineParser &parser, PreviewOptions &options)
     const QFileInfo tool(options.tool);
     if (!options.tool.isEmpty() && !(tool.isFile() && tool.isExecutable()))
         return QStringLiteral("cannot run ") + options.tool;
-    if (!parser.positionalArguments().isEmpty())
-        return QStringLiteral("unexpected ") + parser.positionalArguments().first();
     return {};
 }
 
@@ -137,19 +119,11 @@ std::optional<int> readCommandLine(int argc, char **argv, PreviewOptions &option
     QCommandLineParser parser;
     parser.setApplicationDescription(description);
     addOptions(parser);
-    if (!parser.parse(QCoreApplication::arguments()))
-        return failure(parser.errorText(), WrongUsage);
-    if (parser.isSet(QStringLiteral("help"))) {
-        print(stdout, parser.helpText());
-        return Success;
-    }
-    if (parser.isSet(QStringLiteral("version"))) {
-        print(stdout, QStringLiteral("dravikon-preview ") + consoleVersion);
-        return Success;
-    }
+    if (const std::optional<int> status = parseCommandLine(parser))
+        return *status;
     const QString problem = takeOptions(parser, options);
     if (!problem.isEmpty())
-        return failure(problem, WrongUsage);
+        return failure(wrongUsage, problem);
     return std::nullopt;
 }
 
@@ -170,7 +144,7 @@ void reportProblems(const DevicePaths &paths)
     const QCoreApplication application(argc, nullptr);
     const QString fault = fileFault(paths);
     if (!fault.isEmpty()) {
-        failure(QStringLiteral("cannot load ") + fault, Success);
+        failure(0, QStringLiteral("cannot load ") + fault);
         return;
     }
     const QuietMessages quiet;
@@ -199,7 +173,7 @@ int runOnSimulatedDevice(const QString &directory, const PreviewOptions &options
     const QString problem = makeSimulatedDevice(
         directory, ownPath(program), { options.webRoot }, options.values, options.wishes);
     if (!problem.isEmpty())
-        return failure(problem, NoDevice);
+        return failure(noDevice, problem);
     return runOn(simulatedTool(directory), options, program);
 }
 
@@ -209,6 +183,7 @@ int runPreview(int argc, char **argv, const PreviewDefaults &defaults)
 {
     if (isSimulatedTool(argv[0]))
         return runSimulatedTool(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("dravikon-preview"));
     PreviewOptions options;
     if (const std::optional<int> status = readCommandLine(argc, argv, options))
         return *status;
@@ -223,6 +198,6 @@ int runPreview(int argc, char **argv, const PreviewDefaults &defaults)
     const QString directory =
         makeDisposableDirectory(QDir::tempPath() + QLatin1String("/dravikon-preview-XXXXXX"));
     if (directory.isEmpty())
-        return failure(QStringLiteral("cannot make a directory in ") + QDir::tempPath(), NoDevice);
+        return failure(noDevice, QStringLiteral("cannot make a directory in ") + QDir::tempPath());
     return runOnSimulatedDevice(directory, options, argv[0]);
 }

@@ -1,4 +1,4 @@
-#include "check/Findings.h"
+#include "check/ReferenceFindings.h"
 
 #include "menu/RepeatedScreen.h"
 
@@ -40,9 +40,9 @@ Findings referenceFindings(const LoadedMenu &menu, const QScriptValue &definitio
             findings << error(isRepeatedScreen(definition, menu.handler.names())
                     ? "no-template"
                     : "dangling-reference",
-                QStringLiteral("it leads to \"%1\", which does not exist; define that screen, or "
-                               "remove the reference")
-                    .arg(css));
+                "it leads to \"%1\", which does not exist; define that screen, or remove the "
+                "reference",
+                css);
         }
     }
     return findings;
@@ -55,22 +55,21 @@ Findings selfReferenceFindings(const LoadedMenu &menu, const TreeViewItem &item)
         const int screen = menu.screens.find(css);
         if (screen >= 0 && isWithin(&item, menu.screens.at(screen))) {
             findings << error("self-reference",
-                QStringLiteral("it leads back to \"%1\", which it is part of; remove the reference")
-                    .arg(css));
+                "it leads back to \"%1\", which it is part of; remove the reference", css);
         }
     }
     return findings;
 }
 
-Finding unreachedFinding(const LoadedMenu &menu, int screen)
+Findings unreachedFindings(const LoadedMenu &menu, int screen)
 {
     const QScriptValue css = menu.screens.at(screen).property(menu.handler.names().css);
     if (css.isValid() && menu.screens.find(css.toString()) != screen) {
-        return error("duplicate-css",
-            QStringLiteral("an earlier screen has the same css and is shown instead; rename this"));
+        return { error("duplicate-css",
+            "an earlier screen has the same css and is shown instead; rename this") };
     }
-    return warning("unreached",
-        QStringLiteral("nothing leads to screen number %1; name its css in the \"screens\" of "
-                       "another, or remove it")
-            .arg(screen));
+    return { warning("unreached",
+        "nothing leads to screen number %1; name its css in the \"screens\" of another, or remove "
+        "it",
+        screen) };
 }

@@ -1,5 +1,7 @@
-#include "check/Findings.h"
+#include "check/EditFindings.h"
 
+#include "check/Answer.h"
+#include "json/Values.h"
 #include "render/InputValidation.h"
 
 #include <algorithm>
@@ -35,17 +37,16 @@ Findings roomFindings(const TreeViewItemHandler &handler, const TreeViewItem &it
         const QString number = QString::number(rangeValue(handler, item, end));
         if (!validateInput(handler, item, number)) {
             findings << warning("narrow-rule",
-                QStringLiteral("the rule \"%1\" has no room for %2 of its \"range\"; give it more "
-                               "characters, the sign counts too")
-                    .arg(validation(handler, item), number));
+                "the rule \"%1\" has no room for %2 of its \"range\"; give it more characters, the "
+                "sign counts too",
+                validation(handler, item), number);
         }
     }
     return findings;
 }
 
-} // namespace
-
-// The shortest texts that a rule can take: none, or the number of the range next to zero.
+// True when there is a text that the rule accepts. If there is one, one of the shortest is: an
+// empty one, 0, or an end of the range.
 bool acceptsSomething(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
     const QStringList texts = { QString(), QStringLiteral("0"),
@@ -55,11 +56,13 @@ bool acceptsSomething(const TreeViewItemHandler &handler, const TreeViewItem &it
         [&](const QString &text) { return validateInput(handler, item, text); });
 }
 
-Findings ruleFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
+} // namespace
+
+Findings editFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
     if (!hasValidation(handler, item)) {
-        return { error("no-validation",
-            QStringLiteral("without \"validation\" every text is refused; give it a rule")) };
+        return { error(
+            "no-validation", "without \"validation\" every text is refused; give it a rule") };
     }
     if (acceptsSomething(handler, item))
         return roomFindings(handler, item);
@@ -67,11 +70,21 @@ Findings ruleFindings(const TreeViewItemHandler &handler, const TreeViewItem &it
     const InputRule parts = inputRule(handler, item);
     if (parts.kind == InputRule::Number && parts.length && !hasRange(handler, item)) {
         return { error("no-range",
-            QStringLiteral("without \"range\" the rule \"%1\" refuses every text; give it the "
-                           "lowest and the highest number")
-                .arg(rule)) };
+            "without \"range\" the rule \"%1\" refuses every text; give it the lowest and the "
+            "highest number",
+            rule) };
     }
-    return { error("dead-rule",
-        QStringLiteral("refuses every text: the rule \"%1\" %2")
-            .arg(rule, whyNothingFits(rule, parts))) };
+    return { error(
+        "dead-rule", "refuses every text: the rule \"%1\" %2", rule, whyNothingFits(rule, parts)) };
+}
+
+Findings editValueFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    if (!handler.isEditable(item) || !acceptsSomething(handler, item)
+        || validateInput(handler, item, textOf(item.value)))
+        return {};
+    return { error("edit-value",
+        "its rule \"%1\" refuses the value %2, which so cannot be confirmed unchanged; correct the "
+        "value, the rule or the \"range\"",
+        validation(handler, item), shownValue(item.value)) };
 }

@@ -1,0 +1,29 @@
+#include "check/Answer.h"
+
+#include "json/JsonWriter.h"
+#include "json/Values.h"
+
+std::optional<QVariant> jsonOf(const ToolCall &call, JsonFault *fault)
+{
+    return parseJson(QString::fromUtf8(call.output).toUtf8(), fault);
+}
+
+std::optional<QVariantList> answerOf(const ToolCall &call)
+{
+    const QVariant value = jsonOf(call).value_or(QVariant());
+    return value.type() == QVariant::List ? std::make_optional(value.toList()) : std::nullopt;
+}
+
+bool isNumber(const QVariant &value)
+{
+    bool isNumber = false;
+    value.toDouble(&isNumber);
+    return isNumber && value.type() != QVariant::Bool;
+}
+
+QString shownValue(const QVariant &value)
+{
+    return value.type() == QVariant::Double
+        ? textOf(value)
+        : QString::fromLatin1(jsonText(value).value_or(QByteArray()));
+}

@@ -1,0 +1,12 @@
+// no-read, dead-read, hidden-read, no-write, quotes: the words of "ajax-read" and "ajax-write".
+#pragma once
+
+#include "check/Finding.h"
+#include "menu/TreeViewItemHandler.h"
+
+/// Values of a visible item's children that are not read or not stored, and words that the tool
+/// cannot understand.
+Findings bindingFindings(const TreeViewItemHandler &handler, const TreeViewItem &item);
+
+/// An "ajax-read" of a screen that every reference hides.
+Findings hiddenReadFindings(const TreeViewItemHandler &handler, const TreeViewItem &screen);

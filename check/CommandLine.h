@@ -1,0 +1,20 @@
+// What the checker and the preview do alike on their command lines and their output.
+#pragma once
+
+#include <QCommandLineParser>
+
+#include <cstdio>
+#include <optional>
+
+/// The exit status for a command line that cannot be understood.
+constexpr int wrongUsage = 2;
+
+/// Prints a line. Foreign text is made printable: a control character becomes a blank.
+void print(std::FILE *file, const QString &line);
+
+/// Prints `text` on standard error after the name of the application and returns `status`.
+int failure(int status, const QString &text);
+
+/// Parses the application's arguments; `--help` and `--version` are added to the options. Returns
+/// the exit status when there is nothing more to do: after help or version, and for wrong usage.
+std::optional<int> parseCommandLine(QCommandLineParser &parser);

@@ -1,0 +1,31 @@
+#include "check/SliderFindings.h"
+
+#include "check/Answer.h"
+
+Findings sliderFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    const int lowest = handler.minimum(item);
+    const int highest = handler.maximum(item);
+    const int step = handler.step(item);
+    if (highest < lowest || step <= 0) {
+        return { error("slider",
+            "a slider from %1 to %2 by %3 cannot move; correct \"min\", \"max\" or \"step\"",
+            lowest, highest, step) };
+    }
+    const qint64 remainder = (qint64(highest) - lowest) % step;
+    if (remainder == 0)
+        return {};
+    return { warning("slider-step",
+        "steps of %1 from %2 lead to %3, not to \"max\" %4; correct one of them", step, lowest,
+        highest - remainder, highest) };
+}
+
+Findings sliderValueFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    const double value = item.value.toDouble();
+    if (isNumber(item.value) && handler.minimum(item) <= value && value <= handler.maximum(item))
+        return {};
+    return { error("slider-value",
+        "%1 is no number from %2 to %3; correct the value, \"min\" or \"max\"",
+        shownValue(item.value), handler.minimum(item), handler.maximum(item)) };
+}

@@ -1,0 +1,9 @@
+// misspelled-attribute: attributes whose names are nearly those that the console reads.
+#pragma once
+
+#include "check/Finding.h"
+#include "menu/TreeViewItemHandler.h"
+
+/// Attributes of an item, and of the reference to it, that the console does not read but whose
+/// names are close to one that it does.
+Findings spellingFindings(const TreeViewItemHandler &handler, const TreeViewItem &item);
