@@ -24,7 +24,7 @@ std::optional<sigset_t> toolMask;
 static_assert(std::atomic<bool>::is_always_lock_free && std::atomic<pid_t>::is_always_lock_free,
     "signal handlers use these");
 
-// A signal that ends the console finds either no tool or its pid.
+// Signals are blocked so that no handler runs between the start and the storing of the pid.
 std::unique_ptr<ToolProcess> start(const QString &program, const QStringList &arguments)
 {
     const SignalBlocker blocker(asynchronousSignals());
@@ -34,8 +34,8 @@ std::unique_ptr<ToolProcess> start(const QString &program, const QStringList &ar
     return tool;
 }
 
-// True when the tool will end. It may have left its group, which then exists without it; a tool
-// that runs as another user cannot be killed.
+// False for a tool that runs as another user. The answer of the kill by group would only say that
+// some process of the group was signalled.
 bool killTool(pid_t tool) noexcept
 {
     // kill(0) would signal our own group, kill(-1) every process.

@@ -45,7 +45,7 @@ struct Pipe {
     int writeEnd = -1;
 };
 
-// File descriptors, process group and signals of the program at its start.
+// File descriptors, session and signals of the program at its start.
 class Surroundings {
 public:
     Surroundings(int input, int output, const sigset_t &signalMask)
@@ -55,7 +55,6 @@ public:
         posix_spawn_file_actions_adddup2(&files, output, STDOUT_FILENO);
         posix_spawn_file_actions_addopen(&files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
         posix_spawnattr_init(&attributes);
-        posix_spawnattr_setpgroup(&attributes, 0);
         posix_spawnattr_setsigmask(&attributes, &signalMask);
         // The console ignores SIGPIPE and may have inherited SIGCHLD as ignored; few programs cope.
         sigset_t unignored;
@@ -63,8 +62,11 @@ public:
         sigaddset(&unignored, SIGPIPE);
         sigaddset(&unignored, SIGCHLD);
         posix_spawnattr_setsigdefault(&attributes, &unignored);
+        // In the console's process group, Ctrl-Z could stop the program before it is started, and
+        // the console would wait for that start for ever. The group of a session of its own is
+        // orphaned: stops by the terminal are discarded.
         posix_spawnattr_setflags(
-            &attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+            &attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
     }
 
     ~Surroundings()

@@ -7,8 +7,8 @@
 
 #include <csignal>
 
-/// A program on pipes that leads a process group of its own. Its standard input stays open and
-/// empty, its standard error is discarded.
+/// A program on pipes in a session of its own, without a terminal; it also leads its process group.
+/// Its standard input stays open and empty, its standard error is discarded.
 class ToolProcess {
 public:
     /// Starts `program`, searched in PATH when it has no slash, with one argv entry for each of

@@ -57,10 +57,7 @@ private slots:
         const Rows<QByteArray, bool> row("tool", "hangs");
         row("waits for its child", "sleep 60 & echo $$ $!; wait", true);
         row("leaves a child", "sleep 60 & echo $$ $!", false);
-        row("leaves its group",
-            "sleep 60 & echo $$ $!\n"
-            "exec perl -e 'setpgrp(0, getpgrp(getppid())); sleep 60'",
-            true);
+        row("stops itself", "sleep 60 & echo $$ $!; kill -STOP $$", true);
     }
 
     void killsWhatHangs()
@@ -78,6 +75,14 @@ private slots:
         QVERIFY(parent > 1 && child > 1 && kill(parent, 0) != 0);
         QTRY_COMPARE(QFileInfo::exists(QStringLiteral("/proc/%1/exe").arg(child)), !hangs);
         kill(child, SIGKILL);
+    }
+
+    // The terminal's Ctrl-Z reaches neither the tool nor, while it is started, the console for it.
+    void runsToolsInSessionsOfTheirOwn()
+    {
+        device.setTool("read -r process name state parent group session terminal rest"
+                       " < /proc/$$/stat; echo $((session - $$)) $((group - $$)) $terminal");
+        QCOMPARE(handler.scriptHelper().run({ word }), QByteArray("0 0 0\n"));
     }
 
     void givesUpWhatCannotBeKilled()
