@@ -85,7 +85,7 @@ Findings textValueFindings(const QVariant &value)
             "the value %1 is no text or number and shows nothing; write it otherwise",
             shownValue(value)) };
     }
-    const QString key = markedKey(textOf(value));
+    const std::optional<QString> key = markedKey(textOf(value));
     const QString what = QStringLiteral("value");
-    return key.isEmpty() ? characterFindings(what, textOf(value)) : keyFindings(what, key);
+    return key ? keyFindings(what, *key) : characterFindings(what, textOf(value));
 }

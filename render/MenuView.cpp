@@ -22,8 +22,8 @@ QString resolveMarks(QString text)
         return text.remove(latitudePrefix).remove(longitudePrefix).remove(coordinateSeparator);
     if (text.startsWith(dateTimePrefix))
         return translate(text.remove(dateTimePrefix));
-    const QString key = markedKey(text);
-    return key.isEmpty() ? text : translate(key);
+    const std::optional<QString> key = markedKey(text);
+    return key ? translate(*key) : text;
 }
 
 class MenuRenderer {
@@ -121,11 +121,11 @@ private:
 
 } // namespace
 
-QString markedKey(const QString &text)
+std::optional<QString> markedKey(const QString &text)
 {
     if (!text.startsWith(i18nPrefix) || text.startsWith(latitudePrefix)
         || text.startsWith(dateTimePrefix))
-        return {};
+        return std::nullopt;
     return QString(text).remove(i18nPrefix);
 }
 

@@ -4,14 +4,16 @@
 #include "menu/TreeViewItemHandler.h"
 #include "render/Frame.h"
 
+#include <optional>
+
 /// The lines of `item` and of what is shown below it, for a terminal of `termColumns` columns. The
 /// root of the tree has no line of its own. `note` receives how the last list value was found.
 Frame menuLines(const TreeViewItemHandler &handler, const TreeViewItem &item, int termColumns,
     QString *note = nullptr);
 
-/// The translation key in a value that the backend marks as one ("i18n_key"); empty for any other
-/// text, and for dates and positions, whose marks begin alike.
-QString markedKey(const QString &text);
+/// The translation key, which may be empty, in a value that the backend marks as one ("i18n_key");
+/// nothing for any other text, and for dates and positions, whose marks begin alike.
+std::optional<QString> markedKey(const QString &text);
 
 /// The column, from 0, at which values begin.
 constexpr int valueColumn(int termColumns)
