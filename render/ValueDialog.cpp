@@ -246,8 +246,7 @@ void typeCharacter(ViewState &state, const TreeViewItemHandler &handler, int key
 void removeCharacter(ViewState &state, const TreeViewItemHandler &handler)
 {
     moveSelection(state, handler, true, -1);
-    if (state.dialogValue >= 0)
-        state.editBuffer.remove(state.dialogValue, 1);
+    state.editBuffer.remove(qMax(state.dialogValue, 0), 1); // a slider can be below 0
 }
 
 CursorPosition editPosition(const ViewState &state, const TreeViewItemHandler &handler)
