@@ -35,18 +35,20 @@ int integer(const QScriptValue &value)
     return saturated<int>(value.toInteger());
 }
 
-// Nothing where the list has no such entry. Numbers without a fraction stay integers on their way
-// to the backend, however large.
+// Nothing where the list has no such entry. A number without a fraction is an integer on its way to
+// the backend, as far as 64 bits reach.
 std::optional<QVariant> entryAt(const QScriptValue &list, int i)
 {
-    constexpr double exactIntegers = 9007199254740992.0;
+    constexpr double wordLimit = 18446744073709551616.0; // 2^64
     const QScriptValue entry = i < 0 ? QScriptValue() : list.property(quint32(i));
     if (!entry.isValid())
         return std::nullopt;
     const double number = entry.isNumber() ? entry.toNumber() : qQNaN();
-    if (std::trunc(number) == number && std::abs(number) <= exactIntegers)
+    if (std::trunc(number) != number)
+        return entry.toVariant();
+    if (-wordLimit / 2 <= number && number < wordLimit / 2)
         return qlonglong(number);
-    return entry.toVariant();
+    return 0 < number && number < wordLimit ? QVariant(qulonglong(number)) : entry.toVariant();
 }
 
 } // namespace
