@@ -1,6 +1,7 @@
 #include "app/Session.h"
 
 #include "app/MessageLog.h"
+#include "app/SessionEnd.h"
 #include "app/SignalHandlers.h"
 #include "app/TerminalGui.h"
 #include "app/TerminalOutput.h"

@@ -1,12 +1,12 @@
 #include "app/SignalHandlers.h"
 
+#include "app/SessionEnd.h"
+#include "app/TerminalExit.h"
 #include "app/TerminalGui.h"
 #include "app/TerminalMode.h"
-#include "app/TerminalOutput.h"
 #include "backend/BackendTool.h"
 #include "platform/SignalBlocker.h"
 #include "platform/WriteAtOnce.h"
-#include "render/Screen.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -15,26 +15,14 @@
 #include <atomic>
 #include <cerrno>
 #include <csignal>
-#include <cstdlib>
-#include <ctime>
 
-#include <sys/time.h>
 #include <unistd.h>
 
 namespace {
 
-constexpr qint64 graceMs = 1000; // between the end of a session and its being cut off
-// A call that begins to block right after SIGINT does not notice it, so SIGALRM follows repeatedly.
-constexpr qint64 repeatMs = 50;
-
 std::atomic<TerminalGui *> terminalGui(nullptr);
-std::atomic<bool> ending(false);
 std::atomic<bool> stopped(false);
-std::atomic<bool> continued(false); // and not drawn since
-std::atomic<qint64> idleEnd(0); // this and the next in milliseconds of the monotonic clock
-std::atomic<qint64> graceEnd(0);
-
-static_assert(std::atomic<qint64>::is_always_lock_free, "signal handlers use these");
+std::atomic<bool> continued(false); // SIGCONT came; nothing has been redrawn since
 
 // A stack overflow is one of the reasons to get here, so these handlers run on their own stack.
 std::array<char, 65536> handlerStack;
@@ -53,22 +41,6 @@ public:
 private:
     const int kept = errno;
 };
-
-qint64 now() noexcept
-{
-    timespec time = {};
-    clock_gettime(CLOCK_MONOTONIC, &time);
-    return qint64(time.tv_sec) * 1000 + time.tv_nsec / 1000000;
-}
-
-// Sends SIGALRM after `ms` milliseconds, never for 0.
-void startTimer(qint64 ms) noexcept
-{
-    itimerval timer = {};
-    timer.it_value.tv_sec = time_t(ms / 1000);
-    timer.it_value.tv_usec = suseconds_t(ms % 1000 * 1000);
-    setitimer(ITIMER_REAL, &timer, nullptr);
-}
 
 // No SA_RESTART: a blocked read or write must return and notice the end of the session. SIGWINCH,
 // open while the reader waits, must not interrupt another handler with a redraw.
@@ -105,31 +77,22 @@ bool endsProcess(int number)
     }
 }
 
-// Restores the attributes and writes `text`, unless the terminal is not the session's: before its
-// start, after its end, or while a shell has taken the terminal back.
-template <size_t size> void leaveTerminal(const char (&text)[size]) noexcept
-{
-    const pid_t foreground = tcgetpgrp(STDIN_FILENO);
-    if (!TerminalMode::isActive() || (foreground > 0 && foreground != getpgrp()))
-        return;
-    tcflush(STDOUT_FILENO, TCOFLUSH);
-    TerminalMode::restore();
-    writeAtOnce(STDOUT_FILENO, text, size - 1);
-}
-
 void reportDeath(int number) noexcept
 {
-    char text[] = "\nDravikon was ended by signal 00.\n";
-    constexpr size_t digits = sizeof text - 5;
-    text[digits] = char('0' + number / 10);
-    text[digits + 1] = char('0' + number % 10);
-    writeAtOnce(STDERR_FILENO, text, sizeof text - 1);
+    char text[] = "Dravikon was ended by signal 00.\n";
+    char *digit = text + sizeof text - 5;
+    if (number >= 10)
+        *digit++ = char('0' + number / 10);
+    *digit++ = char('0' + number % 10);
+    *digit++ = '.';
+    *digit++ = '\n';
+    writeAtOnce(STDERR_FILENO, text, size_t(digit - text));
 }
 
 void restoreAndDie(int number, siginfo_t *info, void *)
 {
     BackendTool::killRunning();
-    leaveTerminal("\x1b[?25h\x1b[0m");
+    leaveTerminalAtLastRow();
     reportDeath(number);
     sigaction(number, &formerActions[size_t(number)], nullptr);
     // A fault recurs when the instruction is retried under the former action; any other signal must
@@ -139,21 +102,10 @@ void restoreAndDie(int number, siginfo_t *info, void *)
         raise(number);
 }
 
-// The session does not end by itself: a script does not return, or the terminal takes no output.
-void cutOff()
-{
-    BackendTool::killRunning();
-    leaveTerminal(leaveSequence);
-    _exit(EXIT_SUCCESS);
-}
-
 void onAlarm(int)
 {
     const ErrnoKeeper keeper;
-    const qint64 left = (ending ? graceEnd : idleEnd) - now();
-    if (left <= 0 && (ending || isWritingToTerminal()))
-        cutOff();
-    startTimer(ending ? repeatMs : qMax(left, graceMs));
+    watchSession();
 }
 
 void onSignal(int number)
@@ -188,7 +140,7 @@ void onContinue(int)
 void onStop(int)
 {
     const ErrnoKeeper keeper;
-    leaveTerminal("\x1b[?25h\x1b[0m");
+    leaveTerminalAtLastRow();
     stopped = true;
     setHandler(SIGTSTP, SIG_DFL);
     raise(SIGTSTP);
@@ -209,11 +161,6 @@ void installHandler(int number, int line)
 }
 
 } // namespace
-
-bool isSessionEnding() noexcept
-{
-    return ending;
-}
 
 void installEndingHandlers()
 {
@@ -253,28 +200,4 @@ void installSessionHandlers(TerminalGui &gui)
     setHandler(SIGCONT, onContinue);
     if (!isIgnored(SIGTSTP))
         setHandler(SIGTSTP, onStop);
-}
-
-void startIdleTime(int idleMs) noexcept
-{
-    // The timer is set once; when it is over, it is set anew for what is left by then.
-    const bool isFirst = idleEnd.exchange(now() + idleMs + graceMs) == 0;
-    if (isFirst && !ending)
-        startTimer(idleMs + graceMs);
-}
-
-void endSession() noexcept
-{
-    if (ending)
-        return;
-    graceEnd = now() + graceMs;
-    ending = true;
-    BackendTool::abandon();
-    startTimer(repeatMs);
-    QCoreApplication::quit();
-}
-
-void concludeSession() noexcept
-{
-    startTimer(0);
 }

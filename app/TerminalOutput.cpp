@@ -1,20 +1,12 @@
 #include "app/TerminalOutput.h"
 
-#include <atomic>
 #include <cerrno>
 
 #include <poll.h>
 #include <unistd.h>
 
-namespace {
-
-std::atomic<bool> isWriting(false);
-
-}
-
 void writeToTerminal(const QByteArray &bytes)
 {
-    isWriting = true;
     const char *next = bytes.constData();
     const char *const end = next + bytes.size();
     while (next < end) {
@@ -28,10 +20,4 @@ void writeToTerminal(const QByteArray &bytes)
             break;
         }
     }
-    isWriting = false;
-}
-
-bool isWritingToTerminal() noexcept
-{
-    return isWriting;
 }

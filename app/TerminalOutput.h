@@ -6,6 +6,3 @@
 /// Writes all of `bytes` to standard output, however long that takes. On an error, as after a
 /// hang-up, the rest is dropped.
 void writeToTerminal(const QByteArray &bytes);
-
-/// True while `writeToTerminal` runs. Async-signal-safe.
-bool isWritingToTerminal() noexcept;

@@ -1,7 +1,7 @@
 #include "app/TerminalReader.h"
 
 #include "app/KeyDecoder.h"
-#include "app/SignalHandlers.h"
+#include "app/SessionEnd.h"
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>

@@ -76,9 +76,10 @@ private slots:
         session.signal(number);
         QCOMPARE(session.waitForExit(), (ExitStatus { ExitStatus::Killed, number }));
         QVERIFY(session.isTerminalRestored());
-        QCOMPARE(session.bytesSinceMark(), QByteArray("\x1b[?25h\x1b[0m"));
-        QVERIFY(session.messages().contains(
-            QStringLiteral("ended by signal %1.\n").arg(number, 2, 10, QLatin1Char('0'))));
+        QCOMPARE(session.bytesSinceMark(), QByteArray("\x1b[0m\x1b[999H\x1b[K\x1b[?25h"));
+        QCOMPARE(session.terminal().row(23), QString());
+        QVERIFY(session.messages().endsWith(
+            QStringLiteral("Dravikon was ended by signal %1.\n").arg(number)));
     }
 
     void stackOverflow()
@@ -200,6 +201,33 @@ private slots:
         QVERIFY((session.attributes().c_lflag & (ICANON | ECHO)) == (ICANON | ECHO));
     }
 
+    void idleTimeEndsEverySession_data()
+    {
+        const Rows<QByteArray, QByteArray> row("script", "bytes");
+        row("key", script, Key::down);
+        row("lone ESC", script, "\x1b");
+        row("ESC [", script, "\x1b[");
+        row("ESC [ 5", script, "\x1b[5");
+        row("endless script", "for (;;) ;", "");
+        row("endless getter", "Settings = { settings: [{ get screens() { for (;;) ; } }] };", "");
+    }
+
+    void idleTimeEndsEverySession()
+    {
+        QFETCH(QByteArray, script);
+        QFETCH(QByteArray, bytes);
+        constexpr int idleMs = 1500;
+        Session session;
+        session.device.setScript(script);
+        QElapsedTimer sinceStart;
+        sinceStart.start();
+        QVERIFY(session.run(24, 80, idleMs));
+        QVERIFY(bytes.isEmpty() || (session.hasTitle() && session.send(bytes)));
+        QCOMPARE(session.waitForExit(), endedWell);
+        QVERIFY(sinceStart.elapsed() >= idleMs);
+        QVERIFY(session.isTerminalRestored());
+    }
+
     void toolIsStarting_data()
     {
         const Rows<int> row("number");
@@ -248,6 +276,8 @@ private slots:
         const tcflag_t mode = session.attributes().c_lflag;
         QVERIFY(session.send("\x1a") && session.waitForText(QStringLiteral("stopped")));
         QVERIFY(session.isTerminalRestored());
+        // What the shell writes is not in the middle of the menu.
+        QCOMPARE(session.terminal().row(22), QStringLiteral("stopped"));
         QVERIFY(session.send("\n"));
         QVERIFY(session.waitFor([&] { return session.terminal().screen() == before; }));
         QCOMPARE(session.attributes().c_lflag, mode);
