@@ -1,6 +1,5 @@
 #include "backend/BackendTool.h"
 
-#include "backend/ToolProcess.h"
 #include "platform/SignalBlocker.h"
 
 #include <QDeadlineTimer>
@@ -14,6 +13,7 @@
 namespace {
 
 constexpr int maximumOutput = 16 * 1024 * 1024;
+constexpr int maximumErrors = 64 * 1024;
 constexpr int sliceMs = 50; // how soon a wait notices that the session is ending
 constexpr int deathMs = 1000; // how long a killed tool may take to end
 
@@ -25,11 +25,12 @@ static_assert(std::atomic<bool>::is_always_lock_free && std::atomic<pid_t>::is_a
     "signal handlers use these");
 
 // Signals are blocked so that no handler runs between the start and the storing of the pid.
-std::unique_ptr<ToolProcess> start(const QString &program, const QStringList &arguments)
+std::unique_ptr<ToolProcess> start(
+    const QString &program, const QStringList &arguments, ToolProcess::StandardError standardError)
 {
     const SignalBlocker blocker(asynchronousSignals());
-    auto tool =
-        std::make_unique<ToolProcess>(program, arguments, toolMask.value_or(blocker.formerMask()));
+    auto tool = std::make_unique<ToolProcess>(
+        program, arguments, toolMask.value_or(blocker.formerMask()), standardError);
     runningTool = tool->pid();
     return tool;
 }
@@ -45,28 +46,56 @@ bool killTool(pid_t tool) noexcept
     return kill(tool, SIGKILL) == 0;
 }
 
-} // namespace
+// Kills a tool that still runs and waits until it has ended.
+void endTool(ToolProcess &tool)
+{
+    if (!killTool(tool.pid()))
+        return;
+    const QDeadlineTimer death(deathMs);
+    while (tool.isRunning() && !death.hasExpired())
+        tool.waitForEnd(int(death.remainingTime()));
+}
 
-QByteArray BackendTool::run(const QString &program, const QStringList &arguments, int timeoutMs)
+ToolRun runTool(const QString &program, const QStringList &arguments, int timeoutMs,
+    ToolProcess::StandardError standardError)
 {
     if (abandoned)
-        return {};
+        return { {}, {}, { ToolEnd::Abandoned, 0 } };
     const QDeadlineTimer deadline(timeoutMs);
-    const auto tool = start(program, arguments);
+    const auto tool = start(program, arguments, standardError);
     QByteArray output;
+    QByteArray errors;
     while (tool->isRunning() && !deadline.hasExpired() && !abandoned
         && output.size() <= maximumOutput) {
         tool->wait(int(qMin<qint64>(sliceMs, deadline.remainingTime())));
         tool->takeOutput(output);
+        tool->takeErrors(errors);
+        errors.truncate(maximumErrors);
     }
-    if (tool->isRunning() && killTool(tool->pid())) {
-        const QDeadlineTimer death(deathMs);
-        while (tool->isRunning() && !death.hasExpired())
-            tool->waitForEnd(int(death.remainingTime()));
-    }
+    const bool isTimedOut = tool->isRunning();
+    if (isTimedOut)
+        endTool(*tool);
     runningTool = 0;
     while (output.size() <= maximumOutput && tool->takeOutput(output)) { }
-    return abandoned || output.size() > maximumOutput ? QByteArray() : output;
+    while (errors.size() < maximumErrors && tool->takeErrors(errors)) { }
+    if (abandoned)
+        return { {}, errors, { ToolEnd::Abandoned, 0 } };
+    if (output.size() > maximumOutput)
+        return { {}, errors, { ToolEnd::PrintedTooMuch, 0 } };
+    return { output, errors, isTimedOut ? ToolEnd { ToolEnd::TimedOut, 0 } : tool->end() };
+}
+
+} // namespace
+
+QByteArray BackendTool::run(const QString &program, const QStringList &arguments, int timeoutMs)
+{
+    return runTool(program, arguments, timeoutMs, ToolProcess::Discarded).output;
+}
+
+ToolRun BackendTool::observedRun(
+    const QString &program, const QStringList &arguments, int timeoutMs)
+{
+    return runTool(program, arguments, timeoutMs, ToolProcess::Kept);
 }
 
 void BackendTool::abandon() noexcept

@@ -1,11 +1,14 @@
 // The one place that starts the device's backend tool.
 #pragma once
 
-#include <QByteArray>
-#include <QString>
-#include <QStringList>
+#include "backend/ToolProcess.h"
 
-#include <csignal>
+/// What a run of the tool left.
+struct ToolRun {
+    QByteArray output; ///< what `BackendTool::run` returns
+    QByteArray errors; ///< the first 64 KiB of standard error
+    ToolEnd end;
+};
 
 namespace BackendTool {
 
@@ -18,6 +21,11 @@ constexpr int patienceMs = 30000;
 /// because it runs as another user, is left alone and reaped later. More than 16 MiB of output
 /// count as none, and so does the output of a tool that `abandon` cut off.
 QByteArray run(const QString &program, const QStringList &arguments, int timeoutMs = patienceMs);
+
+/// As `run`, for those who want to know more: it keeps standard error, which `run` discards, and
+/// how the run ended.
+ToolRun observedRun(
+    const QString &program, const QStringList &arguments, int timeoutMs = patienceMs);
 
 /// From now on no tool is started, and a running one is killed at once. Async-signal-safe.
 void abandon() noexcept;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 
 #include <fcntl.h>
 #include <poll.h>
@@ -32,10 +33,10 @@ void closeEnd(int &descriptor)
 }
 
 struct Pipe {
-    Pipe()
+    explicit Pipe(bool isWanted = true)
     {
         std::array<int, 2> ends = { -1, -1 };
-        if (pipe2(ends.data(), O_CLOEXEC) == 0) {
+        if (isWanted && pipe2(ends.data(), O_CLOEXEC) == 0) {
             readEnd = ends[0];
             writeEnd = ends[1];
         }
@@ -48,12 +49,15 @@ struct Pipe {
 // File descriptors, session and signals of the program at its start.
 class Surroundings {
 public:
-    Surroundings(int input, int output, const sigset_t &signalMask)
+    Surroundings(int input, int output, int errors, const sigset_t &signalMask)
     {
         posix_spawn_file_actions_init(&files);
         posix_spawn_file_actions_adddup2(&files, input, STDIN_FILENO);
         posix_spawn_file_actions_adddup2(&files, output, STDOUT_FILENO);
-        posix_spawn_file_actions_addopen(&files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+        if (errors >= 0)
+            posix_spawn_file_actions_adddup2(&files, errors, STDERR_FILENO);
+        else
+            posix_spawn_file_actions_addopen(&files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
         posix_spawnattr_init(&attributes);
         posix_spawnattr_setsigmask(&attributes, &signalMask);
         // The console ignores SIGPIPE and may have inherited SIGCHLD as ignored; few programs cope.
@@ -82,8 +86,22 @@ public:
     posix_spawnattr_t attributes;
 };
 
-// 0 when the program could not be started.
-pid_t start(const QString &program, const QStringList &arguments, const Surroundings &surroundings)
+bool takeFrom(int &descriptor, QByteArray &bytes)
+{
+    if (descriptor < 0)
+        return false;
+    std::array<char, 16384> buffer;
+    const ssize_t length = read(descriptor, buffer.data(), buffer.size());
+    if (length > 0)
+        bytes.append(buffer.data(), int(length));
+    else if (length == 0)
+        closeEnd(descriptor);
+    return length > 0;
+}
+
+// Returns the error number, 0 when the program was started.
+int start(pid_t &pid, const QString &program, const QStringList &arguments,
+    const Surroundings &surroundings)
 {
     QByteArrayList words { QFile::encodeName(program) };
     for (const QString &argument : arguments)
@@ -92,36 +110,47 @@ pid_t start(const QString &program, const QStringList &arguments, const Surround
     for (QByteArray &word : words)
         argv += word.data();
     argv += nullptr;
-    pid_t pid = 0;
-    const int error = posix_spawnp(
+    return posix_spawnp(
         &pid, argv.first(), &surroundings.files, &surroundings.attributes, argv.data(), environ);
-    return error == 0 ? pid : 0;
 }
 
 } // namespace
 
-ToolProcess::ToolProcess(
-    const QString &program, const QStringList &arguments, const sigset_t &signalMask)
+ToolProcess::ToolProcess(const QString &program, const QStringList &arguments,
+    const sigset_t &signalMask, StandardError standardError)
 {
     reapOthers();
     Pipe input;
     Pipe output;
-    if (input.readEnd >= 0 && output.readEnd >= 0)
-        child = start(program, arguments, { input.readEnd, output.writeEnd, signalMask });
+    Pipe errors(standardError == Kept);
+    int error = EMFILE;
+    if (input.readEnd >= 0 && output.readEnd >= 0) {
+        error = start(child, program, arguments,
+            { input.readEnd, output.writeEnd, errors.writeEnd, signalMask });
+    }
     closeEnd(input.readEnd);
     closeEnd(output.writeEnd);
+    closeEnd(errors.writeEnd);
     inputEnd = input.writeEnd;
     outputEnd = output.readEnd;
-    fcntl(outputEnd, F_SETFL, O_NONBLOCK);
-    running = child > 0;
+    errorEnd = errors.readEnd;
+    for (const int end : { outputEnd, errorEnd }) {
+        if (end >= 0)
+            fcntl(end, F_SETFL, O_NONBLOCK);
+    }
+    running = error == 0;
     if (running)
         pidfd = int(syscall(SYS_pidfd_open, child, 0));
+    else
+        child = 0;
+    toolEnd = { running ? ToolEnd::Exited : ToolEnd::NotStarted, error };
 }
 
 ToolProcess::~ToolProcess()
 {
     closeEnd(inputEnd);
     closeEnd(outputEnd);
+    closeEnd(errorEnd);
     closeEnd(pidfd);
     if (child > 0 && waitpid(child, nullptr, WNOHANG) == 0)
         unreaped += child;
@@ -129,32 +158,35 @@ ToolProcess::~ToolProcess()
 
 void ToolProcess::wait(int timeoutMs)
 {
-    waitFor(outputEnd, timeoutMs);
+    waitFor(outputEnd, errorEnd, timeoutMs);
 }
 
 void ToolProcess::waitForEnd(int timeoutMs)
 {
-    waitFor(-1, timeoutMs);
+    waitFor(-1, -1, timeoutMs);
 }
 
-void ToolProcess::waitFor(int output, int timeoutMs)
+void ToolProcess::waitFor(int output, int errors, int timeoutMs)
 {
-    std::array<pollfd, 2> events = { { { output, POLLIN, 0 }, { pidfd, POLLIN, 0 } } };
+    std::array<pollfd, 3> events = { { { output, POLLIN, 0 }, { errors, POLLIN, 0 },
+        { pidfd, POLLIN, 0 } } };
     // Linux before 5.3 has no pidfd: look again every millisecond.
     poll(events.data(), events.size(), pidfd >= 0 ? timeoutMs : qMin(timeoutMs, 1));
     // With SIGCHLD ignored an ended child is reaped at once, and waitid fails.
     siginfo_t end = {};
     const int result = waitid(P_PID, id_t(child), &end, WEXITED | WNOHANG | WNOWAIT);
     running = result == 0 && end.si_pid == 0;
+    if (result == 0 && !running)
+        toolEnd = { end.si_code == CLD_EXITED ? ToolEnd::Exited : ToolEnd::Signalled,
+            end.si_status };
 }
 
 bool ToolProcess::takeOutput(QByteArray &output)
 {
-    std::array<char, 16384> buffer;
-    const ssize_t length = read(outputEnd, buffer.data(), buffer.size());
-    if (length > 0)
-        output.append(buffer.data(), int(length));
-    else if (length == 0)
-        closeEnd(outputEnd);
-    return length > 0;
+    return takeFrom(outputEnd, output);
+}
+
+bool ToolProcess::takeErrors(QByteArray &errors)
+{
+    return takeFrom(errorEnd, errors);
 }

@@ -9,6 +9,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+Q_DECLARE_METATYPE(ToolEnd)
+
 class BackendTest : public QObject {
     Q_OBJECT
 
@@ -40,6 +42,42 @@ private slots:
         QTEST(ScriptHelper::variantListToJson(values).toUtf8(), "list");
         QStringList arguments(word);
         QTEST(handler.scriptHelper().write(arguments, values), "confirmsWrite");
+    }
+
+    void observesRuns_data()
+    {
+        const Rows<QByteArray, ToolEnd, QByteArray, QByteArray> row(
+            "commands", "end", "output", "errors");
+        row("exit status", "echo [1]; echo x >&2; exit 3", { ToolEnd::Exited, 3 }, "[1]\n", "x\n");
+        row("signal", "echo [1]; kill -USR1 $$", { ToolEnd::Signalled, SIGUSR1 }, "[1]\n", "");
+        row("too slow", "echo [1]; exec sleep 60", { ToolEnd::TimedOut, 0 }, "[1]\n", "");
+        row("too much", "head -c 16777217 /dev/zero", { ToolEnd::PrintedTooMuch, 0 }, "", "");
+        row("many errors", "yes | head -c 1000000 >&2; echo [1]", { ToolEnd::Exited, 0 }, "[1]\n",
+            QByteArray("y\n").repeated(32768));
+    }
+
+    void observesRuns()
+    {
+        QFETCH(QByteArray, commands);
+        QFETCH(ToolEnd, end);
+        device.setTool(commands);
+        const int timeoutMs = end.kind == ToolEnd::TimedOut ? 1000 : 30000;
+        const ToolRun run = BackendTool::observedRun(device.paths().backendTool, {}, timeoutMs);
+        QCOMPARE(run.end.kind, end.kind);
+        QCOMPARE(run.end.number, end.number);
+        QTEST(run.output, "output");
+        QTEST(run.errors, "errors");
+    }
+
+    void observesWhyNothingStarts()
+    {
+        const QString folder = device.paths().webRoot;
+        const auto error = [](const QString &tool) {
+            const ToolEnd end = BackendTool::observedRun(tool, {}).end;
+            return end.kind == ToolEnd::NotStarted ? end.number : 0;
+        };
+        QCOMPARE(error(folder), EACCES);
+        QCOMPARE(error(folder + QStringLiteral("/none")), ENOENT);
     }
 
     void passesArgumentsAsTheyAre()
