@@ -17,6 +17,11 @@ void print(const QString &title, const QStringList &lines = {})
     std::puts((QStringList(title) + lines).join(QStringLiteral("\n    ")).toUtf8().constData());
 }
 
+bool isProse(const QString &line)
+{
+    return line.isEmpty() || !line.at(0).isSpace();
+}
+
 // The entry that begins at line `i`, which becomes its last line.
 TranscriptEntry takeEntry(const QStringList &lines, int &i)
 {
@@ -54,10 +59,15 @@ bool check(const QString &path, bool rewrites)
     TranscriptPlayer player;
     QStringList written;
     for (int i = 0; i < lines.size(); ++i) {
-        written += lines.at(i);
-        if (!lines.at(i).startsWith(indentation))
-            continue;
+        const QString &line = lines.at(i);
         const QString place = QStringLiteral("\n%1:%2: ").arg(path).arg(i + 1);
+        written += line;
+        if (isProse(line))
+            continue;
+        if (!line.startsWith(indentation)) {
+            print(place + QStringLiteral("indented by less than four blanks"));
+            return false;
+        }
         const auto seen = play(player, takeEntry(lines, i), place, rewrites);
         if (!seen)
             return false;

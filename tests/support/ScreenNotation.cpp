@@ -2,18 +2,21 @@
 
 #include <Version.h>
 
-// What is not the same in the whole row: the colours of columns and the text cursor.
+// Colours, with their columns unless the whole row has one, and the text cursor.
 static QString remarksOn(const TerminalEmulator &terminal, int row, const QString &colours)
 {
     static const QStringList names { QStringLiteral("red"), QStringLiteral("green"),
         QStringLiteral("blue"), QStringLiteral("magenta") };
     QStringList remarks;
     for (int first = 0, next = 0; first < colours.size(); first = next) {
-        const QString name = names.value(QStringLiteral("rgbm").indexOf(colours.at(first)));
+        const QString name = names.value(
+            QStringLiteral("rgbm").indexOf(colours.at(first)), QStringLiteral("other colour"));
         while (next < colours.size() && colours.at(next) == colours.at(first))
             ++next;
-        if (colours.at(first) != QLatin1Char('.') && next - first < colours.size())
-            remarks += QStringLiteral("%1 %2-%3").arg(name).arg(first + 1).arg(next);
+        if (colours.at(first) != QLatin1Char('.'))
+            remarks += next - first == colours.size()
+                ? name
+                : QStringLiteral("%1 %2-%3").arg(name).arg(first + 1).arg(next);
     }
     if (terminal.cursorVisible() && terminal.cursor().y() == row)
         remarks += QStringLiteral("cursor %1").arg(terminal.cursor().x() + 1);
@@ -26,11 +29,7 @@ static QString notationOfRow(const TerminalEmulator &terminal, int row)
     // The expectations outlive a version.
     QString text = terminal.row(row);
     text.replace(QLatin1String("ver: ") + consoleVersion, QLatin1String("ver: VERSION"));
-    const QString colours = terminal.backgrounds(row);
-    const QChar first = colours.at(0);
-    const bool isPlain = first == QLatin1Char('.') || colours.count(first) < colours.size();
-    return (isPlain ? QLatin1Char(' ') : first) + QLatin1Char(':') + text
-        + remarksOn(terminal, row, colours);
+    return QStringLiteral(" :") + text + remarksOn(terminal, row, terminal.backgrounds(row));
 }
 
 QStringList notationOfRows(const TerminalEmulator &terminal, const std::set<int> &rows)
