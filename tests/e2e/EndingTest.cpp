@@ -12,17 +12,20 @@ Q_DECLARE_METATYPE(ExitStatus)
 
 namespace {
 
-/// True when a process was started by the name of the device's tool.
+/// True while a shell runs the device's tool.
 bool isToolAlive(const FakeDevice &device)
 {
-    const QByteArray tool = device.paths().backendTool.toLocal8Bit();
+    const QByteArray command = QByteArray("/bin/sh") + '\0' + device.paths().backendTool.toUtf8();
     const QStringList processes =
         QDir(QStringLiteral("/proc")).entryList({ QStringLiteral("[0-9]*") });
-    return std::any_of(processes.begin(), processes.end(), [&tool](const QString &process) {
+    return std::any_of(processes.begin(), processes.end(), [&command](const QString &process) {
         QFile words(QStringLiteral("/proc/%1/cmdline").arg(process));
-        return words.open(QIODevice::ReadOnly) && words.readAll().contains('\0' + tool);
+        return words.open(QIODevice::ReadOnly) && words.readAll().startsWith(command);
     });
 }
+
+/// A tool that never answers when a screen is read.
+const QByteArray toolThatHangs = toolThatReadsBy(hang);
 
 /// Starts the console as a job of a shell, which runs `commands` with it as "$@".
 bool startAsJob(Session &session, const QString &commands)
@@ -60,10 +63,11 @@ private slots:
     void deathBySignal_data()
     {
         const Rows<int> row("number");
-        for (const int number :
-            { SIGTERM, SIGHUP, SIGQUIT, SIGSEGV, SIGABRT, SIGBUS, SIGFPE, SIGILL, SIGSYS, SIGTRAP,
-                SIGUSR1, SIGUSR2, SIGPWR, SIGXCPU, SIGXFSZ, SIGVTALRM, SIGPROF, SIGIO, SIGRTMIN })
-            row(strsignal(number), number);
+        row("SIGHUP", SIGHUP); // the first
+        row("SIGTERM", SIGTERM);
+        row("SIGSEGV", SIGSEGV);
+        row("SIGUSR1", SIGUSR1);
+        row("last real-time signal", SIGRTMAX);
     }
 
     void deathBySignal()
@@ -98,37 +102,62 @@ private slots:
 
     void interrupt_data()
     {
-        const Rows<QByteArray, QByteArray, QByteArrayList> row("script", "tool", "keys");
-        row("menu", script, goodTool, { Key::redraw });
-        row("before the first frame", script, hang, {});
-        row("opening", script, toolThatReadsBy(hang), { Key::enter });
-        row("lone ESC", script, goodTool, { "\x1b" });
-        row("edit field", script, goodTool, keysToEditField);
-        row("diagnose screen", script, goodTool, keysToDiagnoseScreen);
-        row("endless script", "for (;;) ;", goodTool, {});
-        row("endless getter", "Settings = { settings: [{ get screens() { for (;;) ; } }] };",
-            goodTool, {});
+        const Rows<QByteArrayList> row("keys");
+        row("menu", { Key::redraw });
+        row("lone ESC", { "\x1b" });
+        row("edit field", keysToEditField);
+        row("interface screen", keysToDiagnoseScreen);
     }
 
     void interrupt()
     {
-        QFETCH(QByteArray, script);
-        QFETCH(QByteArray, tool);
         QFETCH(QByteArrayList, keys);
         Session session;
-        session.device.setScript(script);
+        QVERIFY(session.start() && session.press(keys));
+        QVERIFY(session.send(Key::interrupt));
+        QCOMPARE(session.waitForExit(), endedWell);
+        QVERIFY(session.isTerminalRestored());
+    }
+
+    void interruptTool_data()
+    {
+        const Rows<QByteArray, QByteArray> row("tool", "bytes");
+        row("before the first frame", hang, "");
+        row("opening a screen", toolThatHangs, Key::enter);
+    }
+
+    void interruptTool()
+    {
+        QFETCH(QByteArray, tool);
+        QFETCH(QByteArray, bytes);
+        Session session;
         session.device.setTool(tool);
-        QVERIFY(session.run());
-        if (keys.isEmpty())
-            QVERIFY(session.waitFor([&] { return !session.device.takeCalls().isEmpty(); }));
-        else
-            QVERIFY(session.hasTitle() && session.press(keys));
-        QVERIFY(
-            !tool.contains(hang) || session.waitFor([&] { return isToolAlive(session.device); }));
+        QVERIFY(session.run() && session.send(bytes));
+        QVERIFY(session.waitFor([&] { return isToolAlive(session.device); }));
         QVERIFY(session.send(Key::interrupt));
         QCOMPARE(session.waitForExit(), endedWell);
         QVERIFY(session.isTerminalRestored());
         QTRY_VERIFY(!isToolAlive(session.device));
+    }
+
+    void interruptScript_data()
+    {
+        const Rows<QByteArray> row("script");
+        row("endless script", "for (;;) ;");
+        row("endless getter", "Settings = { settings: [{ get screens() { for (;;) ; } }] };");
+    }
+
+    void interruptScript()
+    {
+        QFETCH(QByteArray, script);
+        Session session;
+        session.device.setScript(script);
+        QVERIFY(session.run());
+        // The script is loaded after the backend's version was asked for.
+        QVERIFY(session.waitFor([&] { return !session.device.takeCalls().isEmpty(); }));
+        QVERIFY(session.send(Key::interrupt));
+        QCOMPARE(session.waitForExit(), endedWell);
+        QVERIFY(session.isTerminalRestored());
     }
 
     void interruptBeforeMain()
@@ -141,19 +170,17 @@ private slots:
         QVERIFY(session.isTerminalRestored());
     }
 
-    void inheritedSignals_data()
+    void blockedSignal_data()
     {
-        // The status after the signal, and after Q if the signal had no effect.
-        const Rows<QString, int, ExitStatus> row("option", "number", "status");
-        row("blocked SIGINT", "--block-signal=INT", SIGINT, endedWell);
-        row("ignored SIGINT", "--ignore-signal=INT", SIGINT, endedWell);
-        row("blocked SIGTERM", "--block-signal=TERM", SIGTERM, { ExitStatus::Killed, SIGTERM });
-        row("ignored SIGTERM", "--ignore-signal=TERM", SIGTERM, endedWell);
+        const Rows<QString, int, ExitStatus> row("name", "number", "status");
+        row("SIGINT", "INT", SIGINT, endedWell);
+        row("SIGTERM", "TERM", SIGTERM, { ExitStatus::Killed, SIGTERM });
     }
 
-    void inheritedSignals()
+    // The console unblocks what its caller has blocked; the tool gets the caller's mask.
+    void blockedSignal()
     {
-        QFETCH(QString, option);
+        QFETCH(QString, name);
         QFETCH(int, number);
         QFETCH(ExitStatus, status);
         Session session;
@@ -162,49 +189,88 @@ private slots:
         QVERIFY(tool.open(QIODevice::WriteOnly)
             && tool.write("#!/bin/bash\ngrep SigBlk /proc/self/status > \"${0%/*}/mask\"\n") > 0);
         tool.close();
-        QVERIFY(session.startBy(QStringLiteral("exec env %1 \"$@\"").arg(option)));
+        QVERIFY(session.startBy(QStringLiteral("exec env --block-signal=%1 \"$@\"").arg(name)));
         QVERIFY(session.hasTitle());
-        QFile maskFile(session.device.paths().webRoot + QStringLiteral("/mask"));
-        QVERIFY(maskFile.open(QIODevice::ReadOnly));
-        const quint64 blocked =
-            option.startsWith(QLatin1String("--block")) ? 1ULL << (number - 1) : 0;
-        QCOMPARE(maskFile.readAll().trimmed().split('\t').last().toULongLong(nullptr, 16), blocked);
-        const bool isIgnored = number == SIGTERM && status == endedWell;
+        QFile mask(session.device.paths().webRoot + QStringLiteral("/mask"));
+        QVERIFY(mask.open(QIODevice::ReadOnly));
+        QCOMPARE(mask.readAll().trimmed().split('\t').last().toULongLong(nullptr, 16),
+            1ULL << (number - 1));
         session.signal(number);
-        QVERIFY(!isIgnored || (session.press({ Key::redraw }) && session.send("q")));
         QCOMPARE(session.waitForExit(), status);
+    }
+
+    void ignoredSigint()
+    {
+        Session session;
+        QVERIFY(session.startBy(QStringLiteral("exec env --ignore-signal=INT \"$@\"")));
+        QVERIFY(session.hasTitle());
+        session.signal(SIGINT);
+        QCOMPARE(session.waitForExit(), endedWell);
+    }
+
+    void ignoredSignals()
+    {
+        Session session;
+        QVERIFY(session.startBy(QStringLiteral("exec env --ignore-signal=TERM "
+                                               "--ignore-signal=TSTP \"$@\"")));
+        QVERIFY(session.hasTitle());
+        session.mark();
+        session.signal(SIGTERM);
+        session.signal(SIGTSTP);
+        QVERIFY(session.press({ Key::redraw }) && session.waitForRest());
+        QCOMPARE(session.bytesSinceMark(), QByteArray());
+        QVERIFY(session.send("q"));
+        QCOMPARE(session.waitForExit(), endedWell);
     }
 
     void stuckOutput_data()
     {
-        const Rows<int, QByteArray, ExitStatus> row("number", "key", "status");
-        for (const int number : { SIGTERM, SIGHUP, SIGQUIT, SIGUSR1 })
-            row(strsignal(number), number, Key::down, { ExitStatus::Killed, number });
-        row("Interrupt", SIGINT, Key::down, endedWell);
-        row("Q", 0, "q", endedWell);
-        row("idle time", 0, Key::down, endedWell);
+        const Rows<QByteArray, int, int, ExitStatus> row("key", "signal", "idleMs", "status");
+        constexpr int none = 0;
+        constexpr int usual = 180000;
+        row("SIGTERM", Key::down, SIGTERM, usual, { ExitStatus::Killed, SIGTERM });
+        row("SIGHUP", Key::down, SIGHUP, usual, { ExitStatus::Killed, SIGHUP });
+        row("SIGUSR1", Key::down, SIGUSR1, usual, { ExitStatus::Killed, SIGUSR1 });
+        row("Ctrl-C", Key::down, SIGINT, usual, endedWell);
+        row("Q", "q", none, usual, endedWell);
+        row("idle time", Key::down, none, 1500, endedWell);
     }
 
     void stuckOutput()
     {
-        QFETCH(int, number);
         QFETCH(QByteArray, key);
+        QFETCH(int, signal);
+        QFETCH(int, idleMs);
         QFETCH(ExitStatus, status);
         Session session;
-        QVERIFY(session.start(number == 0 && key == Key::down ? 1500 : 180000));
+        QVERIFY(session.start(idleMs));
         // The console waits for room in the terminal, also where it could poll in a loop.
-        session.setInputBlocking(number == 0);
+        session.setInputBlocking(signal == 0);
         session.stopOutput();
         QVERIFY(session.press({ key }) && session.waitForRest());
-        session.signal(number);
+        session.signal(signal);
         QCOMPARE(session.waitForExit(), status);
         QVERIFY((session.attributes().c_lflag & (ICANON | ECHO)) == (ICANON | ECHO));
+    }
+
+    void keyRestartsIdleTime()
+    {
+        const int idleMs = int(PtySession::scaled(1000));
+        Session session;
+        QVERIFY(session.start(idleMs));
+        QElapsedTimer sinceStart;
+        sinceStart.start();
+        QVERIFY(session.waitFor([&] { return sinceStart.elapsed() >= idleMs / 2; }));
+        QElapsedTimer sinceKey;
+        sinceKey.start();
+        QVERIFY(session.press({ Key::down }));
+        QCOMPARE(session.waitForExit(), endedWell);
+        QVERIFY(sinceKey.elapsed() >= idleMs);
     }
 
     void idleTimeEndsEverySession_data()
     {
         const Rows<QByteArray, QByteArray> row("script", "bytes");
-        row("key", script, Key::down);
         row("lone ESC", script, "\x1b");
         row("ESC [", script, "\x1b[");
         row("ESC [ 5", script, "\x1b[5");
@@ -216,13 +282,14 @@ private slots:
     {
         QFETCH(QByteArray, script);
         QFETCH(QByteArray, bytes);
-        constexpr int idleMs = 1500;
+        const int idleMs = int(PtySession::scaled(700));
         Session session;
         session.device.setScript(script);
         QElapsedTimer sinceStart;
         sinceStart.start();
         QVERIFY(session.run(24, 80, idleMs));
-        QVERIFY(bytes.isEmpty() || (session.hasTitle() && session.send(bytes)));
+        QVERIFY(session.waitFor([&] { return !session.device.takeCalls().isEmpty(); }));
+        QVERIFY(session.send(bytes));
         QCOMPARE(session.waitForExit(), endedWell);
         QVERIFY(sinceStart.elapsed() >= idleMs);
         QVERIFY(session.isTerminalRestored());
@@ -258,20 +325,20 @@ private slots:
 
     void stopAndContinue_data()
     {
-        const Rows<QByteArrayList> row("keys");
-        row("menu", { Key::redraw });
-        row("edit field", keysToEditField);
+        const Rows<QByteArrayList, QString, bool> row("keys", "text", "cursorVisible");
+        row("menu", { Key::redraw }, "truck", false);
+        row("edit field", keysToEditField, "Enter new Value", true);
     }
 
     void stopAndContinue()
     {
         QFETCH(QByteArrayList, keys);
+        QFETCH(QString, text);
+        QFETCH(bool, cursorVisible);
         Session session;
         QVERIFY(
             startAsJob(session, QStringLiteral("\"$@\"; echo stopped; read x; fg > /dev/null")));
-        const bool isEdit = keys == keysToEditField;
-        QVERIFY(session.send(keys.join()));
-        QVERIFY(!isEdit || session.waitForText(QStringLiteral("Enter new Value")));
+        QVERIFY(session.send(keys.join()) && session.waitForText(text));
         const QStringList before = session.terminal().screen();
         const tcflag_t mode = session.attributes().c_lflag;
         QVERIFY(session.send("\x1a") && session.waitForText(QStringLiteral("stopped")));
@@ -281,8 +348,31 @@ private slots:
         QVERIFY(session.send("\n"));
         QVERIFY(session.waitFor([&] { return session.terminal().screen() == before; }));
         QCOMPARE(session.attributes().c_lflag, mode);
-        QCOMPARE(session.terminal().cursorVisible(), isEdit);
+        QCOMPARE(session.terminal().cursorVisible(), cursorVisible);
         QVERIFY(session.send(Key::escape + 'q'));
+        QCOMPARE(session.waitForExit(), endedWell);
+    }
+
+    void stopWithoutShell_data()
+    {
+        const Rows<QString> row("command");
+        row("login program", "exec \"$@\"");
+        row("command of a login script", "\"$@\"; exit $?");
+    }
+
+    // The process group is orphaned: the system discards the stop, and nobody would continue it.
+    void stopWithoutShell()
+    {
+        QFETCH(QString, command);
+        Session session;
+        session.setStandardError(QStringLiteral("/dev/tty"));
+        QVERIFY(session.startBy(command) && session.hasTitle());
+        const tcflag_t mode = session.attributes().c_lflag;
+        session.mark();
+        QVERIFY(session.send("\x1a"));
+        QVERIFY(session.waitFor([&] { return session.bytesSinceMark().contains("Drav"); }));
+        QCOMPARE(session.attributes().c_lflag, mode);
+        QVERIFY(session.send("q"));
         QCOMPARE(session.waitForExit(), endedWell);
     }
 
