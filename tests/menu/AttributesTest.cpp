@@ -3,87 +3,132 @@
 #include "menu/TreeViewItemHandler.h"
 #include "tests/support/Rows.h"
 
-#include <functional>
-
 class AttributesTest : public QObject {
     Q_OBJECT
 
     TreeViewItemHandler menu { DevicePaths() };
+    std::unique_ptr<TreeViewItem> item; ///< of the definition and the entry that were set last
 
-    QVariant answer(const QByteArray &query, const TreeViewItem &item) const
+    void setItem(const QByteArray &definition, const QByteArray &entry = {})
     {
-        const QMap<QByteArray, std::function<QVariant()>> answers {
-            { "label", [&] { return menu.labelKey(item); } },
-            { "visible", [&] { return menu.isVisible(item); } },
-            { "editable", [&] { return menu.isEditable(item); } },
-            { "screen", [&] { return int(menu.diagnoseScreen(item)); } },
-            { "minimum", [&] { return menu.minimum(item); } },
-            { "maximum", [&] { return menu.maximum(item); } },
-            { "count", [&] { return menu.valueCount(item); } },
-            { "text 1", [&] { return menu.valueAt(item, 1); } },
-            { "code 3", [&] { return menu.databaseValueAt(item, 3); } },
-            { "place of 10", [&] { return menu.indexOfDatabaseValue(item, 10.0); } },
-        };
-        return answers[query]();
+        const QByteArray script = "[{" + definition + "}, {" + entry + "}]";
+        const auto list = menu.scriptHelper().scriptEngine().evaluate(QString::fromLatin1(script));
+        item = std::make_unique<TreeViewItem>(list.property(0), list.property(1), nullptr, -1, 0);
     }
 
 private slots:
-    void describes_data()
+    void label_data()
     {
-        const Rows<QByteArray, QByteArray, QByteArray, QVariant> add(
-            "query", "definition", "entry", "answer");
-        const auto row = [&add](const QByteArray &query, const QByteArray &definition,
-                             const QVariant &answer, const QByteArray &entry = {}) {
-            add(query + " of {" + definition + "} < {" + entry + '}', query, definition, entry,
-                answer);
-        };
-        row("label", "i18n: 'own'", QStringLiteral("own"), "i18n: 'entry'");
-        row("label", "i18n: '', css: 'aShow'", QStringLiteral("entry"), "i18n: 'entry'");
-        row("label", "css: 'aShow'", QStringLiteral("compartment"));
-        row("label", "css: 'aMetersShow'", QStringLiteral("meter"));
-        row("label", "css: 'Shown'", QStringLiteral("Shown"), "css: 'a'");
-
-        for (const char *item :
-            { "", "remote: 2", "remote: 1, type: 'btn'", "css: 'btnLoadingplans'" })
-            row("visible", item, true, "remote: 0");
-        for (const char *item : { "remote: 0", "css: 'aTODOb', remote: 1", "css: 'btnLoadingplan'",
-                 "css: 'btnServiceLoadingplan', remote: 2", "type: 'btn', css: 'xTODO'" })
-            row("visible", item, false, "remote: 1");
-        for (const char *entry : { "remote: 2", "type: 'compBtnA'", "type: 'meterBtnA'" })
-            row("visible", "type: 'btn'", true, entry);
-        for (const char *entry : { "", "remote: 0", "type: 'cmpBtnSetup'", "css: 'a'" })
-            row("visible", "type: 'btn'", false, entry);
-        row("visible", "", false, "css: 'xTODO'");
-
-        row("editable", "inputType: 'edit'", true);
-        for (const char *item : { "inputType: 'input'", "inputType: 'Edit'", "" })
-            row("editable", item, false);
-        row("screen", "css: 'btnServiceDiagnoseAsInterfaces', type: 'btn'", 0);
-
-        row("minimum", "min: -2.9", -2);
-        row("maximum", "max: 1e10", std::numeric_limits<int>::max());
-        row("count", "values: ['abc', 3, 2]", 3);
-        row("count", "values: {length: 1e10}", 100000);
-        row("text 1", "values: ['abc', 3]", 3LL);
-        row("code 3", "dbValues: [0, 10, 10, 9007199254740992]", 9007199254740992LL);
-        row("place of 10", "values: ['a', 'b', 'c'], dbValues: [0, 10, '10']", 1);
-        row("place of 10", "values: ['a'], dbValues: [0, 10]", -1);
+        const Rows<QByteArray, QByteArray, QString> row("definition", "entry", "label");
+        row("own", "i18n: 'own'", "i18n: 'entry'", "own");
+        row("of the entry", "i18n: '', css: 'aShow'", "i18n: 'entry'", "entry");
+        row("compartment", "css: 'aShow'", "", "compartment");
+        row("meter", "css: 'aMetersShow'", "", "meter");
+        row("name", "css: 'Shown'", "css: 'a'", "Shown");
     }
 
-    void describes()
+    void label()
     {
-        QFETCH(QByteArray, query);
         QFETCH(QByteArray, definition);
         QFETCH(QByteArray, entry);
-        QFETCH(QVariant, answer);
-        const QByteArray script = "[{" + definition + "}, {" + entry + "}]";
-        const auto list = menu.scriptHelper().scriptEngine().evaluate(QString::fromLatin1(script));
-        TreeViewItem item(list.property(0), list.property(1), nullptr, -1, 0);
-        const QVariant actual = this->answer(query, item);
-        QCOMPARE(actual, answer);
-        QCOMPARE(actual.type(), answer.type());
-        item.addChild({}, {}, -1);
-        QVERIFY(!menu.isEditable(item));
+        setItem(definition, entry);
+        QTEST(menu.labelKey(*item), "label");
+    }
+
+    void visibility_data()
+    {
+        const Rows<QByteArray, QByteArray, bool> row("definition", "entry", "visible");
+        row("hidden by itself", "remote: 0", "remote: 1", false);
+        row("shown in spite of its entry", "remote: 2", "remote: 0", true);
+        row("type, and shown by itself", "type: 'btn', remote: 1", "remote: 0", true);
+        row("type, and shown by its entry", "type: 'btn'", "remote: 2", true);
+        row("type, and hidden by its entry", "type: 'btn'", "remote: 0", false);
+        row("type", "type: 'btn'", "css: 'a'", false);
+        row("type of a compartment", "type: 'btn'", "type: 'compBtnA'", true);
+        row("type of a meter", "type: 'btn'", "type: 'meterBtnA'", true);
+        row("type of something else", "type: 'btn'", "type: 'cmpBtnSetup'", false);
+        row("no type", "", "remote: 0", true);
+
+        row("TODO within the name", "css: 'aTODOb', remote: 1", "", false);
+        row("TODO in the entry's name", "", "css: 'xTODO'", false);
+        row("loading plan", "css: 'btnLoadingplan'", "", false);
+        row("service loading plan", "css: 'btnServiceLoadingplan', remote: 2", "", false);
+        row("loading plans", "css: 'btnLoadingplans'", "", true);
+    }
+
+    void visibility()
+    {
+        QFETCH(QByteArray, definition);
+        QFETCH(QByteArray, entry);
+        setItem(definition, entry);
+        QTEST(menu.isVisible(*item), "visible");
+    }
+
+    void editable_data()
+    {
+        const Rows<QByteArray, bool> row("inputType", "editable");
+        row("edit", "edit", true);
+        row("input of the web interface", "input", false);
+        row("upper case", "Edit", false);
+    }
+
+    void editable()
+    {
+        QFETCH(QByteArray, inputType);
+        setItem("inputType: '" + inputType + '\'');
+        QTEST(menu.isEditable(*item), "editable");
+        item->addChild({}, {}, -1);
+        QVERIFY(!menu.isEditable(*item));
+    }
+
+    void interfaceOfAnotherType()
+    {
+        setItem("css: 'btnServiceDiagnoseAsInterfaces', type: 'btn'");
+        QCOMPARE(menu.diagnoseScreen(*item), NoInterface);
+    }
+
+    void limits()
+    {
+        setItem("min: -2.9, max: 1e10");
+        QCOMPARE(menu.minimum(*item), -2);
+        QCOMPARE(menu.maximum(*item), std::numeric_limits<int>::max());
+    }
+
+    void texts()
+    {
+        setItem("values: ['abc', 3]");
+        QCOMPARE(menu.valueCount(*item), 2);
+        QCOMPARE(menu.valueAt(*item, 1), QVariant(3LL));
+        setItem("values: {length: 1e10}");
+        QCOMPARE(menu.valueCount(*item), 100000);
+    }
+
+    void codes_data()
+    {
+        const Rows<QByteArray, QString> row("code", "written");
+        row("fraction", "2.5", "[2.5]");
+        row("beyond 2^53", "9007199254740994", "[9007199254740994]");
+        row("lowest of 64 bits", "-9223372036854775808", "[-9223372036854775808]");
+        row("highest of 64 bits", "18446744073709549568", "[18446744073709549568]");
+        row("beyond 64 bits", "18446744073709551616", "[18446744073709551616.0]");
+        row("text", "'1'", "[\"1\"]");
+    }
+
+    void codes()
+    {
+        QFETCH(QByteArray, code);
+        setItem("dbValues: [0, " + code + ']');
+        QTEST(ScriptHelper::variantListToJson({ menu.databaseValueAt(*item, 1) }), "written");
+    }
+
+    void placeOfCode()
+    {
+        setItem("values: ['a', 'b', 'c'], dbValues: [0, 10, '10']");
+        QCOMPARE(menu.indexOfDatabaseValue(*item, 10.0), 1);
+        setItem("values: ['a'], dbValues: [0, 10]");
+        QCOMPARE(menu.indexOfDatabaseValue(*item, 10.0), -1);
+        setItem("values: ['a', 'b'], dbValues: ['x']"); // what is missing is no value
+        QCOMPARE(menu.indexOfDatabaseValue(*item, QString()), -1);
     }
 };
 
