@@ -12,6 +12,11 @@ void print(std::FILE *file, const QString &line)
     std::fflush(file);
 }
 
+void printMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    print(stderr, qFormatLogMessage(type, context, text));
+}
+
 int failure(int status, const QString &text)
 {
     print(stderr, QCoreApplication::applicationName() + QStringLiteral(": ") + text);

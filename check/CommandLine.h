@@ -12,6 +12,9 @@ constexpr int wrongUsage = 2;
 /// Prints a line. Foreign text is made printable: a control character becomes a blank.
 void print(std::FILE *file, const QString &line);
 
+/// Prints a message of the console on standard error; to be installed as a message handler.
+void printMessage(QtMsgType type, const QMessageLogContext &context, const QString &text);
+
 /// Prints `text` on standard error after the name of the application and returns `status`.
 int failure(int status, const QString &text);
 

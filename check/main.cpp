@@ -4,15 +4,18 @@
 #include "check/FileFault.h"
 #include "check/Interruption.h"
 #include "check/MenuCheck.h"
+#include "check/OwnProcess.h"
 #include "check/ProgressLine.h"
 #include "locale/CTranslationHandler.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <csignal>
+
 namespace {
 
-enum CheckStatus { Clean, HasProblems, CannotLoad };
+enum CheckStatus { Clean, HasProblems, CannotLoad, EngineCrashed };
 static_assert(CannotLoad == wrongUsage, "as the help text says");
 
 const QString description = QStringLiteral(
@@ -20,7 +23,7 @@ const QString description = QStringLiteral(
     "interface,\none problem a line. Only --device runs the backend tool, and it writes "
     "nothing.\n\n"
     "Exit status: 0 no problem, 1 problems, 2 wrong usage or files that cannot be "
-    "loaded.");
+    "loaded,\n3 the script engine crashed on the definition.");
 
 void print(std::FILE *file, const QStringList &lines)
 {
@@ -84,11 +87,22 @@ int check(const DevicePaths &paths, bool wantsDevice, bool wantsTree)
     return wantsDevice ? qMax(ofMenu, reportDevice(menu, calls)) : ofMenu;
 }
 
+int checkInOwnProcess(const DevicePaths &paths, bool wantsDevice, bool wantsTree)
+{
+    const WorkEnd end = doInOwnProcess([&] { return check(paths, wantsDevice, wantsTree); });
+    if (end.hasCrashed())
+        return failure(EngineCrashed, crashText(paths.settingsScript, end));
+    if (end.status < 0)
+        std::raise(end.signal);
+    return end.status;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
+    qInstallMessageHandler(printMessage);
     QCoreApplication::setApplicationName(QStringLiteral("dravikon-menu-check"));
     QCommandLineParser parser;
     parser.setApplicationDescription(description);
@@ -112,5 +126,5 @@ int main(int argc, char **argv)
         return failure(wrongUsage, QStringLiteral("--tool is for --device"));
     DevicePaths paths { parser.value(webRoot) };
     paths.backendTool = QFileInfo(parser.value(tool)).absoluteFilePath();
-    return check(paths, parser.isSet(device), parser.isSet(tree));
+    return checkInOwnProcess(paths, parser.isSet(device), parser.isSet(tree));
 }

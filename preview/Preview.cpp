@@ -4,6 +4,7 @@
 #include "check/CommandLine.h"
 #include "check/FileFault.h"
 #include "check/MenuCheck.h"
+#include "check/OwnProcess.h"
 #include "check/QuietMessages.h"
 #include "preview/DisposableDirectory.h"
 #include "preview/SimulatedDevice.h"
@@ -138,19 +139,18 @@ QString ownPath(const char *program)
     return found.isEmpty() ? QFile::symLinkTarget(QStringLiteral("/proc/self/exe")) : found;
 }
 
-void reportProblems(const DevicePaths &paths)
+int reportProblems(const DevicePaths &paths)
 {
     int argc = 0;
     const QCoreApplication application(argc, nullptr);
     const QString fault = fileFault(paths);
-    if (!fault.isEmpty()) {
-        failure(0, QStringLiteral("cannot load ") + fault);
-        return;
-    }
+    if (!fault.isEmpty())
+        return failure(0, QStringLiteral("cannot load ") + fault);
     const QuietMessages quiet;
     LoadedMenu menu(paths);
     for (const QString &problem : menuProblems(menu))
         print(stderr, problem);
+    return 0;
 }
 
 int runOn(const QString &tool, const PreviewOptions &options, char *program)
@@ -164,7 +164,9 @@ int runOn(const QString &tool, const PreviewOptions &options, char *program)
     const int status = runSession(argc, argv, session);
     // The session's handler only ends sessions; Ctrl-C is to end the report, too.
     std::signal(SIGINT, SIG_DFL);
-    reportProblems(session.paths);
+    const WorkEnd report = doInOwnProcess([&] { return reportProblems(session.paths); });
+    if (report.hasCrashed())
+        failure(0, crashText(session.paths.settingsScript, report));
     return status;
 }
 

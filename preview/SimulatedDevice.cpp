@@ -1,5 +1,6 @@
 #include "preview/SimulatedDevice.h"
 
+#include "check/OwnProcess.h"
 #include "check/QuietMessages.h"
 #include "preview/DeviceState.h"
 
@@ -7,32 +8,9 @@
 #include <QDir>
 #include <QFile>
 
-#include <cerrno>
-#include <csignal>
-
-#include <sys/prctl.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 namespace {
 
 const QString toolName = QStringLiteral("DBusController");
-
-// The script engine's thread must not be one of the session's process. A script may run without
-// end, so the process ends with its parent.
-template <typename Work> bool inOwnProcess(const Work &work)
-{
-    std::signal(SIGCHLD, SIG_DFL); // or it may be ignored, and the exit status is lost
-    const pid_t parent = getpid();
-    const pid_t process = fork();
-    if (process == 0) {
-        prctl(PR_SET_PDEATHSIG, SIGKILL);
-        _exit(getppid() == parent && work() ? 0 : 1);
-    }
-    int status = 1;
-    while (process > 0 && waitpid(process, &status, 0) < 0 && errno == EINTR) { }
-    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
-}
 
 } // namespace
 
@@ -49,15 +27,16 @@ QString makeSimulatedDevice(const QString &directory, const QString &program,
         QFile::remove(tool);
     if (!QDir().mkpath(directory) || !QFile::link(program, tool))
         return QStringLiteral("cannot make ") + tool;
-    const bool isMade = inOwnProcess([&] {
+    // The script engine's thread must not be one of the session's process.
+    const WorkEnd making = doInOwnProcess([&] {
         int argc = 0;
         const QCoreApplication application(argc, nullptr);
         const QuietMessages quiet;
-        return saveState(state, deviceFromMenu(paths, known, wishes));
+        return saveState(state, deviceFromMenu(paths, known, wishes)) ? 0 : 1;
     });
-    return isMade
-        ? QString()
-        : state + QStringLiteral(" was not made: cannot write it, or the settings script crashed");
+    if (making.hasCrashed())
+        return crashText(paths.settingsScript, making);
+    return making.status == 0 ? QString() : state + QStringLiteral(" cannot be written");
 }
 
 QString simulatedTool(const QString &directory)

@@ -303,6 +303,24 @@ private slots:
         files.setScreens("[{css: '1', screens: []}]");
         QCOMPARE(messages(), QByteArray());
     }
+
+    void reportsCrashesOfTheEngine()
+    {
+        const QByteArray crash = "new RegExp(Array(1e5).join('(') + Array(1e5).join(')'))";
+        // A sanitizer would report the crash by itself.
+        const auto command = QStringLiteral("ASAN_OPTIONS=handle_segv=0 " PREVIEW
+                                            " --idle 1 --web-root '%1' 2>&1 >/dev/null; echo $?")
+                                 .arg(files.paths().webRoot);
+        files.setTranslations("{}");
+        files.setScript("Settings = { settings: [{ get checkIgnore() { " + crash + "; } }] };");
+        const QByteArray afterTheSession = shellOutput(command);
+        QVERIFY(afterTheSession.contains("dravikon-preview: the script engine crashes (signal "));
+        QVERIFY(afterTheSession.endsWith("\n0\n"));
+        files.setScript(crash);
+        const QByteArray withoutSession = shellOutput(command);
+        QVERIFY(withoutSession.contains("dravikon-preview: the script engine crashes (signal "));
+        QVERIFY(withoutSession.endsWith("\n1\n"));
+    }
 };
 
 QTEST_GUILESS_MAIN(PreviewTest)

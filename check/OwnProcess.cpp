@@ -1,0 +1,38 @@
+#include "check/OwnProcess.h"
+
+#include <cerrno>
+#include <csignal>
+
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+bool WorkEnd::hasCrashed() const
+{
+    return signal > 0 && signal != SIGINT && signal != SIGTERM && signal != SIGHUP
+        && signal != SIGQUIT;
+}
+
+WorkEnd doInOwnProcess(const std::function<int()> &work)
+{
+    std::signal(SIGCHLD, SIG_DFL); // while it is ignored, the end of a child is lost
+    const pid_t parent = getpid();
+    const pid_t child = fork();
+    if (child == 0) {
+        std::signal(SIGTERM, SIG_DFL);
+        prctl(PR_SET_PDEATHSIG, SIGTERM);
+        _exit(getppid() == parent ? work() : 0);
+    }
+    int end = 0;
+    while (child > 0 && waitpid(child, &end, 0) < 0 && errno == EINTR) { }
+    if (child < 0)
+        return {};
+    return WIFEXITED(end) ? WorkEnd { WEXITSTATUS(end), 0 } : WorkEnd { -1, WTERMSIG(end) };
+}
+
+QString crashText(const QString &path, const WorkEnd &end)
+{
+    return QStringLiteral("the script engine crashes (signal %1) on %2, and the console with it; "
+                          "avoid endless recursion and deep nesting in the script")
+        .arg(QString::number(end.signal), path);
+}

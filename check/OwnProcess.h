@@ -1,0 +1,21 @@
+// Work with a settings script, which can crash the script engine, away from this process.
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+/// How the work ended.
+struct WorkEnd {
+    int status = -1; ///< what the work returned, from 0 to 255; -1 when a signal ended it
+    int signal = 0; ///< that signal; 0 also when there could be no process
+
+    /// True when a signal ended the work that nobody sends to interrupt a program.
+    bool hasCrashed() const;
+};
+
+/// Does `work` in a child process and waits for it. The child gets SIGTERM when this process ends.
+WorkEnd doInOwnProcess(const std::function<int()> &work);
+
+/// What to report when the work with the settings script at `path` has crashed.
+QString crashText(const QString &path, const WorkEnd &end);
