@@ -1,12 +1,11 @@
 // Runs the benchmarks of single functions.
-#include "bench/DeviceFiles.h"
 #include "locale/CTranslationHandler.h"
+
+#include "tests/support/FakeDevice.h"
 
 #include <QCoreApplication>
 
 #include <benchmark/benchmark.h>
-
-#include <cstdio>
 
 namespace {
 
@@ -28,12 +27,9 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     // Warnings about the generated definitions are of no interest.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    // Sessions take their size from standard input: 80 x 24 where it is no terminal.
-    if (!std::freopen("/dev/null", "r", stdin))
-        return 1;
-    DeviceFiles webInterface;
-    webInterface.writeTranslations(translations());
-    CTranslationHandler::setInstanceRoot(webInterface.webRoot());
+    FakeDevice webInterface;
+    webInterface.setTranslations(translations());
+    CTranslationHandler::setInstanceRoot(webInterface.paths().webRoot);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;

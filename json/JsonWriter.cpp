@@ -65,7 +65,8 @@ bool writeValue(Writer &writer, const QVariant &value, int digits)
     case QVariant::Double:
     case QMetaType::Float:
         return writeDouble(writer, value.toDouble(), digits);
-    case QVariant::List: {
+    case QVariant::List:
+    case QVariant::StringList: {
         const QVariantList list = value.toList();
         writer.StartArray();
         for (const QVariant &element : list) {

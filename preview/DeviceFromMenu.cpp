@@ -2,9 +2,9 @@
 
 #include "check/LoadedMenu.h"
 #include "json/JsonReader.h"
+#include "json/Values.h"
 #include "menu/CountEntry.h"
 #include "menu/TreeBuilder.h"
-#include "preview/DeviceState.h"
 #include "preview/SampleInterfaces.h"
 #include "render/InputValidation.h"
 
@@ -16,11 +16,6 @@ struct Sample {
 };
 
 const QString anyType = QStringLiteral("any");
-
-QString singleSpaced(const QString &words)
-{
-    return words.split(QLatin1Char(' '), Qt::SkipEmptyParts).join(QLatin1Char(' '));
-}
 
 // As it comes back from a state file.
 QVariant stored(const QVariant &value)
@@ -51,10 +46,10 @@ Sample editSample(const TreeViewItemHandler &handler, const TreeViewItem &item, 
     return { text, anyType };
 }
 
-// `place` counts from 0 in the answer that has the value.
-Sample sample(const TreeViewItemHandler &handler, const TreeViewItem &item, int place)
+// `position` counts from 1 in the answer that has the value.
+Sample sample(const TreeViewItemHandler &handler, const TreeViewItem &item, int position)
 {
-    const QString text = QStringLiteral("value %1").arg(place + 1);
+    const QString text = QStringLiteral("value %1").arg(position);
     switch (handler.inputKind(item)) {
     case DropdownInput:
     case SelectLabelInput:
@@ -75,51 +70,53 @@ Sample sample(const TreeViewItemHandler &handler, const TreeViewItem &item, int 
     return { text, anyType };
 }
 
-const QString groupsKey = QStringLiteral("groups");
-const QString valuesKey = QStringLiteral("values");
-const QString limitsKey = QStringLiteral("limits");
-const QString instancesKey = QStringLiteral("instances");
-const QString sealPathKey = QStringLiteral("seal");
-const QString sealKey = QStringLiteral("sealClosed");
+// The stored value of the entry with `key` at the position `place`; nothing when there is none.
+std::optional<QVariant> storedValue(const DeviceGroup &group, const QString &key, int place)
+{
+    // A state made by hand has no keys: its values are in the order of the entries.
+    const bool isAtPlace = group.keys.isEmpty() || group.keys.value(place) == key;
+    const int storedPlace = isAtPlace ? place : group.keys.indexOf(key);
+    if (storedPlace < 0 || storedPlace >= group.values.size())
+        return std::nullopt;
+    return group.values.at(storedPlace);
+}
 
-struct Group {
-    QVariantList values;
-    std::vector<QVariantList> instances; ///< by the number of the compartment or meter
-};
+// As the console passes them to the tool.
+QString wordsOf(const QString &binding, const TreeViewItem &item)
+{
+    QStringList words = binding.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    if (item.index >= 0)
+        words += QString::number(item.index);
+    return words.join(QLatin1Char(' '));
+}
 
 class DeviceMaker {
 public:
-    DeviceMaker(LoadedMenu &menu, const QVariant &known)
+    DeviceMaker(LoadedMenu &menu, DeviceState known)
         : menu(menu)
         , handler(menu.handler)
-        , known(known)
+        , known(std::move(known))
     {
     }
 
-    QVariant make(const DeviceWishes &wishes)
+    DeviceState make(const DeviceWishes &wishes)
     {
         RepeatCounts counts;
         counts.compartments = addCount(compartmentCount, wishes.compartments, 3);
         counts.meters = addCount(meterCount, wishes.meters, 2);
         addScreens(*buildTree(menu.settings.property(0), menu.screens, counts, handler.names()));
 
-        QVariant state = QVariantMap { { QStringLiteral("version"), QStringLiteral("preview") },
-            { sealPathKey, QVariantList { sealKey } }, { sealKey, true },
-            { QStringLiteral("interfaces"), sampleInterfaces() } };
-        const QVariantMap knownParts = known.toMap();
-        for (auto part = knownParts.cbegin(); part != knownParts.cend(); ++part)
-            setValueAt(state, { part.key() }, part.value());
-        setValueAt(state, { groupsKey }, groupsState());
-        // That of another definition may follow a value which this one does not have.
-        if (!valueAt(state, valueAt(state, { sealPathKey }).toList()).isValid())
-            setValueAt(state, { sealPathKey }, QVariantList { sealKey });
-        setValueAt(state, { QStringLiteral("writes") }, writes);
-        for (const auto &[path, count] : wishedCounts)
-            setValueAt(state, path, count);
-        if (wishes.isSealOpen) {
-            const QVariantList seal = valueAt(state, { sealPathKey }).toList();
-            setValueAt(state, seal, !*wishes.isSealOpen);
-        }
+        DeviceState state = known;
+        if (state.version.isEmpty())
+            state.version = QStringLiteral("preview");
+        if (state.interfaces.empty())
+            state.interfaces = sampleInterfaces();
+        for (auto &[words, group] : state.groups)
+            group.writes.clear();
+        for (const auto &[words, group] : groups)
+            state.groups[words] = group;
+        if (wishes.isSealOpen)
+            sealValue(state) = !*wishes.isSealOpen;
         return state;
     }
 
@@ -130,24 +127,21 @@ private:
         const int number = menu.screens.find(QLatin1String(entry.screen));
         const QScriptValue definition = number < 0 ? QScriptValue() : menu.screens.at(number);
         const auto screen = buildTree(definition, menu.screens, {}, handler.names());
-        const std::optional<QString> words = handler.readBinding(*screen);
-        if (!words)
+        const std::optional<QString> read = handler.readBinding(*screen);
+        if (!read)
             return 0;
         addScreens(*screen);
-        const QString group = singleSpaced(*words);
-        QVariantList &values = groups[group].values;
-        int place = 0;
-        for (const auto &child : screen->children) {
-            if (handler.labelKey(*child) == QLatin1String(entry.field) && place < values.size()) {
-                const QVariantList path { groupsKey, group, valuesKey };
-                values[place] = fallback;
-                if (wish)
-                    wishedCounts.push_back({ path + QVariantList { place }, *wish });
-                return wish.value_or(qBound(0, knownOr(values, path).at(place).toInt(), 999));
-            }
-            place += handler.isValueBearing(*child);
-        }
-        return 0;
+        const QString words = wordsOf(*read, *screen);
+        const QString key = QLatin1String(entry.field);
+        const int place = groups[words].keys.indexOf(key);
+        if (place < 0)
+            return 0;
+        QVariant &count = groups[words].values[place];
+        if (wish)
+            count = *wish;
+        else if (!storedValue(known.groups[words], key, place))
+            count = fallback;
+        return qBound(0, integerOf(count), 999);
     }
 
     void addScreens(const TreeViewItem &item)
@@ -160,90 +154,44 @@ private:
             addScreens(*child);
     }
 
+    // Screens with the same words share one list; a longer screen extends it.
     void addScreen(const TreeViewItem &item, const std::optional<QString> &read,
         const std::optional<QString> &write)
     {
-        const QString group = singleSpaced(read ? *read : *write);
-        QVariantList values;
-        QVariantList types;
+        const QString words = wordsOf(read ? *read : *write, item);
+        DeviceGroup &group = groups[words];
+        QHash<QString, int> labels;
+        int place = 0;
         for (const auto &child : item.children) {
             if (!handler.isValueBearing(*child))
                 continue;
-            const Sample entry = sample(handler, *child, values.size());
-            values.push_back(stored(entry.value));
-            types.push_back(read ? entry.type : anyType);
+            const QString label = handler.labelKey(*child);
+            const int number = ++labels[label];
+            if (place++ < group.keys.size())
+                continue;
+            group.keys += number == 1 ? label : QStringLiteral("%1 %2").arg(label).arg(number);
+            const Sample entry = sample(handler, *child, place);
+            group.types.push_back(read ? entry.type : anyType);
+            group.values.push_back(storedValue(known.groups[words], group.keys.last(), place - 1)
+                                       .value_or(entry.value));
         }
-        addValues(groups[group], item.index, values);
-        if (!write)
-            return;
-        const QVariant screen =
-            QVariantMap { { QStringLiteral("group"), group }, { QStringLiteral("types"), types } };
-        QVariantList screens = writes.value(singleSpaced(*write)).toList();
-        if (!screens.contains(screen)) {
-            screens.push_back(screen);
-            writes[singleSpaced(*write)] = screens;
+        if (write) {
+            QVariantList sizes = group.writes.value(wordsOf(*write, item)).toList();
+            if (!sizes.contains(place))
+                group.writes[wordsOf(*write, item)] = sizes << place;
         }
-    }
-
-    // Of screens that share their words, each finds the values that it has in common with others.
-    static void addValues(Group &group, int instance, const QVariantList &values)
-    {
-        if (instance >= int(group.instances.size()))
-            group.instances.resize(size_t(instance) + 1);
-        QVariantList &shared = instance < 0 ? group.values : group.instances[size_t(instance)];
-        shared += values.mid(shared.size());
-    }
-
-    QVariantList knownOr(const QVariantList &invented, const QVariantList &path) const
-    {
-        const QVariantList values = valueAt(known, path).toList();
-        return values.size() == invented.size() ? values : invented;
-    }
-
-    QVariantMap groupsState() const
-    {
-        QVariantMap state;
-        for (auto group = groups.cbegin(); group != groups.cend(); ++group) {
-            const QVariantList path { groupsKey, group.key() };
-            QVariantMap parts;
-            if (const QVariant limits = valueAt(known, path + QVariantList { limitsKey });
-                limits.isValid())
-                parts[limitsKey] = limits;
-            if (!group->values.isEmpty() || group->instances.empty())
-                parts[valuesKey] = knownOr(group->values, path + QVariantList { valuesKey });
-            if (!group->instances.empty()) {
-                parts[instancesKey] =
-                    instancesState(group->instances, path + QVariantList { instancesKey });
-            }
-            state[group.key()] = parts;
-        }
-        return state;
-    }
-
-    // Known instances beyond those that are shown are kept: the count may grow again.
-    QVariantList instancesState(
-        const std::vector<QVariantList> &invented, const QVariantList &path) const
-    {
-        const int knownCount = valueAt(known, path).toList().size();
-        QVariantList instances;
-        for (int i = 0; i < qMax(int(invented.size()), knownCount); ++i) {
-            const QVariantList &values = invented[qMin(size_t(i), invented.size() - 1)];
-            instances.push_back(knownOr(values, path + QVariantList { i }));
-        }
-        return instances;
     }
 
     LoadedMenu &menu;
     const TreeViewItemHandler &handler;
-    const QVariant known;
-    QMap<QString, Group> groups; ///< by the words that read them
-    QVariantMap writes; ///< lists of the screens that are written, by the words for it
-    QVector<QPair<QVariantList, int>> wishedCounts; ///< with their paths
+    DeviceState known;
+    std::map<QString, DeviceGroup> groups; ///< of the definition, by the words that read them
 };
 
 } // namespace
 
-QVariant deviceFromMenu(const DevicePaths &paths, const QVariant &known, const DeviceWishes &wishes)
+DeviceState deviceFromMenu(
+    const DevicePaths &paths, const DeviceState &known, const DeviceWishes &wishes)
 {
     LoadedMenu menu(paths);
     return DeviceMaker(menu, known).make(wishes);

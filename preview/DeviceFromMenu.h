@@ -2,12 +2,9 @@
 #pragma once
 
 #include "platform/DevicePaths.h"
+#include "preview/DeviceState.h"
 
-#include <QVariant>
-
-#include <optional>
-
-/// What the device is wanted to be like; what is not set stays as it is known.
+/// Settings from the command line; those that are not set keep their value.
 struct DeviceWishes {
     std::optional<int> compartments;
     std::optional<int> meters;
@@ -15,8 +12,8 @@ struct DeviceWishes {
 };
 
 /// The state of a device that answers every read of the definition in `paths` with one value for
-/// each entry, of the kind that the entry shows, and takes back what its screens write. Values in
-/// `known`, a state made by hand or by an earlier run, replace the invented ones of groups that
-/// still have as many.
-QVariant deviceFromMenu(
-    const DevicePaths &paths, const QVariant &known, const DeviceWishes &wishes);
+/// each entry, of the kind that the entry shows, and takes back what its screens write. A value in
+/// `known`, a state made by hand or by an earlier run, replaces the invented one of the entry with
+/// its key. What `known` has for other screens stays, too.
+DeviceState deviceFromMenu(
+    const DevicePaths &paths, const DeviceState &known, const DeviceWishes &wishes);

@@ -9,6 +9,74 @@
 
 namespace {
 
+// The keys of the file, each with its member. Loading and saving visit the same ones.
+
+template <typename Visit> void visitMembers(DeviceGroup &group, const Visit &visit)
+{
+    visit("keys", group.keys);
+    visit("types", group.types);
+    visit("writes", group.writes);
+    visit("values", group.values);
+}
+
+template <typename Visit> void visitMembers(FieldInterface &interface, const Visit &visit)
+{
+    visit("query", interface.query);
+    visit("enabled", interface.enabled);
+    visit("answers", interface.answers);
+    visit("drift", interface.drift);
+    visit("answer", interface.answer);
+}
+
+template <typename Visit> void visitMembers(DeviceState &state, const Visit &visit)
+{
+    visit("version", state.version);
+    visit("sealClosed", state.sealClosed);
+    visit("seal", state.seal);
+    visit("limits", state.limits);
+    visit("groups", state.groups);
+    visit("interfaces", state.interfaces);
+}
+
+struct Loader {
+    template <typename Member> void operator()(const char *key, Member &member) const
+    {
+        if (const auto value = object.find(QLatin1String(key)); value != object.end())
+            member = value->value<Member>();
+    }
+
+    template <typename Part> void operator()(const char *key, std::map<QString, Part> &parts) const
+    {
+        const QVariantMap objects = object.value(QLatin1String(key)).toMap();
+        for (auto entry = objects.begin(); entry != objects.end(); ++entry)
+            visitMembers(parts[entry.key()], Loader { entry->toMap() });
+    }
+
+    QVariantMap object;
+};
+
+// Leaves out what is empty or off.
+struct Saver {
+    template <typename Member> void operator()(const char *key, const Member &member) const
+    {
+        if (member != Member())
+            object[QLatin1String(key)] = QVariant::fromValue(member);
+    }
+
+    template <typename Part> void operator()(const char *key, std::map<QString, Part> &parts) const
+    {
+        QVariantMap objects;
+        for (auto &[name, part] : parts) {
+            QVariantMap entry;
+            visitMembers(part, Saver { entry });
+            objects[name] = entry;
+        }
+        object[QLatin1String(key)] = objects;
+    }
+
+    QVariantMap &object;
+};
+
 // For a reader: one member a line, lists on one line.
 QByteArray indented(const QVariant &value, const QByteArray &margin)
 {
@@ -24,59 +92,55 @@ QByteArray indented(const QVariant &value, const QByteArray &margin)
     return "{\n" + members.join(",\n") + '\n' + margin + '}';
 }
 
-bool isMember(const QVariant &step)
-{
-    return step.type() == QVariant::String;
-}
-
 } // namespace
+
+QVariant &sealValue(DeviceState &state)
+{
+    const auto group = state.groups.find(state.seal.value(0));
+    if (group == state.groups.end())
+        return state.sealClosed;
+    const int place = group->second.keys.indexOf(state.seal.value(1));
+    QVariantList &values = group->second.values;
+    return place >= 0 && place < values.size() ? values[place] : state.sealClosed;
+}
 
 QString stateFile(const QString &directory)
 {
     return directory + QLatin1String("/state.json");
 }
 
-QVariant loadState(const QString &path)
+std::optional<DeviceState> stateFromJson(const QByteArray &json)
+{
+    const QVariant value = parseJson(json).value_or(QVariant());
+    if (value.type() != QVariant::Map)
+        return std::nullopt;
+    DeviceState state;
+    visitMembers(state, Loader { value.toMap() });
+    return state;
+}
+
+std::optional<DeviceState> loadState(const QString &path)
 {
     QFile file(path);
     if (!file.exists() || !file.open(QIODevice::ReadOnly))
-        return {};
-    return parseJson(file.readAll()).value_or(QVariant());
+        return std::nullopt;
+    return stateFromJson(file.readAll());
 }
 
-bool saveState(const QString &path, const QVariant &state)
+QByteArray stateJson(DeviceState state)
+{
+    QVariantMap object;
+    visitMembers(state, Saver { object });
+    return indented(object, {}) + '\n';
+}
+
+bool saveState(const QString &path, const DeviceState &state)
 {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return false;
-    file.write(indented(state, {}) + '\n');
+    file.write(stateJson(state));
     return file.commit();
-}
-
-QVariant valueAt(QVariant state, const QVariantList &path)
-{
-    for (const QVariant &step : path) {
-        state = isMember(step) ? state.toMap().value(step.toString())
-                               : state.toList().value(step.toInt());
-    }
-    return state;
-}
-
-void setValueAt(QVariant &state, const QVariantList &path, const QVariant &value)
-{
-    if (path.isEmpty()) {
-        state = value;
-    } else if (isMember(path.first())) {
-        QVariantMap map = state.toMap();
-        setValueAt(map[path.first().toString()], path.mid(1), value);
-        state = map;
-    } else {
-        QVariantList list = state.toList();
-        const int index = path.first().toInt();
-        if (index >= 0 && index < list.size())
-            setValueAt(list[index], path.mid(1), value);
-        state = list;
-    }
 }
 
 QByteArray deviceJson(const QVariant &value)

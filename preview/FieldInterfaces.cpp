@@ -1,88 +1,80 @@
 #include "preview/FieldInterfaces.h"
 
-#include "preview/DeviceState.h"
+#include "json/Values.h"
 
 #include <cmath>
+#include <limits>
 
 namespace {
 
 // Up and down between 0 and `amplitude`, later channels faster; 0 in the first answer.
-int driftSteps(int answers, int channel, int amplitude)
+qint64 driftSteps(qint64 answers, qint64 channel, qint64 amplitude)
 {
-    if (amplitude <= 0)
+    if (amplitude <= 0 || answers <= 0)
         return 0;
-    const int phase = answers % (2 * amplitude) * (channel + 1) % (2 * amplitude);
+    const qint64 phase = answers % (2 * amplitude) * (channel + 1) % (2 * amplitude);
     return phase <= amplitude ? phase : 2 * amplitude - phase;
 }
 
-// A channel that measures 0 has no sensor and stays there.
-void driftNumber(QVariant &value, int steps)
+// A channel that measures 0 has no sensor and stays at 0.
+void driftNumber(QVariant &value, qint64 steps)
 {
+    constexpr qlonglong highest = std::numeric_limits<qlonglong>::max();
     if (value.type() == QVariant::LongLong && value != 0)
-        value = value.toLongLong() + steps;
+        value = qMin(value.toLongLong(), highest - steps) + steps;
     else if (value.type() == QVariant::Double)
-        value = std::round(value.toDouble() * 10 + steps) / 10;
+        value = std::round(value.toDouble() * 10 + double(steps)) / 10;
 }
 
-QVariantList drifted(QVariantList interface, const QVariantList &amplitudes, int answers)
+QVariantList drifted(QVariantList values, const FieldInterface &interface)
 {
-    for (int index = 0; index < interface.size(); ++index) {
-        QVariant &value = interface[index];
-        const int amplitude = amplitudes.value(index).toInt();
+    for (int index = 0; index < values.size(); ++index) {
+        QVariant &value = values[index];
+        const int amplitude = integerOf(interface.drift.value(index));
         if (value.type() != QVariant::List) {
-            driftNumber(value, driftSteps(answers, index, amplitude));
+            driftNumber(value, driftSteps(interface.answers, index, amplitude));
             continue;
         }
         QVariantList channels = value.toList();
         for (int channel = 0; channel < channels.size(); ++channel)
-            driftNumber(channels[channel], driftSteps(answers, channel, amplitude));
+            driftNumber(channels[channel], driftSteps(interface.answers, channel, amplitude));
         value = channels;
     }
-    return interface;
+    return values;
 }
 
-QString interfaceWithQuery(const QVariantMap &interfaces, const QString &query)
+QVariantList currentAnswer(const FieldInterface &interface, const QString &number)
 {
-    for (auto entry = interfaces.cbegin(); entry != interfaces.cend(); ++entry) {
-        if (valueAt(entry.value(), { QStringLiteral("query") }) == query)
-            return entry.key();
-    }
-    return {};
-}
-
-} // namespace
-
-QVariant interfaceAnswer(QVariant &state, const QString &query, const QString &number)
-{
-    const QVariantMap interfaces = valueAt(state, { QStringLiteral("interfaces") }).toMap();
-    const QString name = interfaceWithQuery(interfaces, query);
-    if (name.isEmpty())
-        return {};
-    const QVariantMap interface = interfaces.value(name).toMap();
-    const QVariant stored = interface.value(QStringLiteral("answer"));
-    const QVariantList amplitudes = interface.value(QStringLiteral("drift")).toList();
-    const int answers = interface.value(QStringLiteral("answers")).toInt();
-
-    QVariantList answer = stored.toList();
-    if (stored.type() == QVariant::Map)
-        answer = drifted(stored.toMap().value(number).toList(), amplitudes, answers);
+    if (interface.answer.type() == QVariant::Map)
+        return drifted(interface.answer.toMap().value(number).toList(), interface);
+    QVariantList answer = interface.answer.toList();
     for (QVariant &entry : answer) {
-        if (stored.type() == QVariant::List && entry.type() == QVariant::List)
-            entry = drifted(entry.toList(), amplitudes, answers);
-    }
-    if (interface.value(QStringLiteral("enabled")).toBool()) {
-        setValueAt(
-            state, { QStringLiteral("interfaces"), name, QStringLiteral("answers") }, answers + 1);
+        if (entry.type() == QVariant::List)
+            entry = drifted(entry.toList(), interface);
     }
     return answer;
 }
 
-bool enableInterface(QVariant &state, const QVariantList &request)
+} // namespace
+
+QVariant interfaceAnswer(DeviceState &state, const QString &query, const QString &number)
 {
-    const QVariantList path { QStringLiteral("interfaces"), request.value(0).toString(),
-        QStringLiteral("enabled") };
-    if (request.value(1).type() != QVariant::Bool || !valueAt(state, path).isValid())
+    for (auto &[name, interface] : state.interfaces) {
+        if (interface.query != query)
+            continue;
+        const QVariantList answer = currentAnswer(interface, number);
+        interface.answers += interface.enabled;
+        return answer;
+    }
+    return {};
+}
+
+bool switchInterface(DeviceState &state, const QVariantList &request)
+{
+    const auto interface = state.interfaces.find(request.value(0).toString());
+    const QVariant isOn = request.value(1);
+    if (interface == state.interfaces.end() || isOn.type() != QVariant::Bool)
         return false;
-    setValueAt(state, path, request.value(1));
+    interface->second.enabled = isOn.toBool();
     return true;
 }

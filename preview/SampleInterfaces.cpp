@@ -1,14 +1,10 @@
 #include "preview/SampleInterfaces.h"
 
-#include "json/JsonReader.h"
-
-QVariant sampleInterfaces()
+std::map<QString, FieldInterface> sampleInterfaces()
 {
-    static const char json[] = R"({
+    static const char json[] = R"({"interfaces": {
     "SpdInterface": {
         "query": "get_menu_service_diagnose_spd_interfaces",
-        "enabled": false,
-        "answers": 0,
         "drift": [0, 0, 12],
         "answer": [
             ["2.11", "C", [410, 388, 402, 395, 420, 377, 391, 405, 399, 412, 640, 655, 631, 648, 662, 637, 644, 650, 629, 658]],
@@ -19,8 +15,6 @@ QVariant sampleInterfaces()
     },
     "IoInterface": {
         "query": "get_menu_service_diagnose_io_interfaces",
-        "enabled": false,
-        "answers": 0,
         "drift": [0, 0, 25],
         "answer": [
             ["1.7", "A", [2412, 2398], [1, 0, 1, 1, 0, 0, 1, 0]],
@@ -30,8 +24,6 @@ QVariant sampleInterfaces()
     },
     "WetlegInterface": {
         "query": "get_menu_service_diagnose_wetleg_interfaces",
-        "enabled": false,
-        "answers": 0,
         "drift": [0, 0, 8],
         "answer": [
             ["3.0", "D", [120, 118, 125, 119, 122, 117], [0, 1]],
@@ -40,16 +32,11 @@ QVariant sampleInterfaces()
     },
     "TagInterface": {
         "query": "get_menu_service_diagnose_tag_interfaces",
-        "enabled": false,
-        "answers": 0,
         "drift": [0, 0, 0, 5, 0, 4, 4],
         "answer": {"0": ["1.3", "B"], "1": [4, "TAG-00871", 12, 93, "DK", 0.4, -1.2, 2, "OK"]}
     },
     "AsInterface": {
         "query": "get_menu_service_diagnose_as_interfaces",
-        "enabled": false,
-        "answers": 0,
-        "drift": [],
         "answer": [
             "2.2",
             "A",
@@ -58,13 +45,11 @@ QVariant sampleInterfaces()
     },
     "LevelInterface": {
         "query": "get_menu_service_diagnose_level_interfaces",
-        "enabled": false,
-        "answers": 0,
         "drift": [0, 0, 6],
         "answer": [
             ["1.0", "A", [1180, 0, 905, 64]]
         ]
     }
-})";
-    return parseJson(json).value_or(QVariant());
+}})";
+    return stateFromJson(json)->interfaces;
 }

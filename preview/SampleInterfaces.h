@@ -1,8 +1,8 @@
 // Field interfaces for a simulated device.
 #pragma once
 
-#include <QVariant>
+#include "preview/DeviceState.h"
 
-/// The six interfaces by their names: the query for each, how far its values drift, and its answer.
-/// One module is missing, one is faulty, and some have fewer channels than the screen.
-QVariant sampleInterfaces();
+/// The six interfaces by name. One module is missing, one is faulty, and some have fewer channels
+/// than the screen has room for.
+std::map<QString, FieldInterface> sampleInterfaces();

@@ -20,9 +20,9 @@ QString makeSimulatedDevice(const QString &directory, const QString &program,
     const QString tool = simulatedTool(directory);
     const QString state = stateFile(directory);
     const bool isKnown = QFile::exists(state);
-    const QVariant known = loadState(isKnown ? state : values);
-    if (isKnown && !known.isValid())
-        return state + QStringLiteral(" is no JSON; correct or remove it");
+    const std::optional<DeviceState> known = loadState(isKnown ? state : values);
+    if (isKnown && !known)
+        return state + QStringLiteral(" is no JSON object; correct or remove it");
     if (QFileInfo(tool).isSymLink())
         QFile::remove(tool);
     if (!QDir().mkpath(directory) || !QFile::link(program, tool))
@@ -32,7 +32,8 @@ QString makeSimulatedDevice(const QString &directory, const QString &program,
         int argc = 0;
         const QCoreApplication application(argc, nullptr);
         const QuietMessages quiet;
-        return saveState(state, deviceFromMenu(paths, known, wishes)) ? 0 : 1;
+        return saveState(state, deviceFromMenu(paths, known.value_or(DeviceState()), wishes)) ? 0
+                                                                                              : 1;
     });
     if (making.hasCrashed())
         return crashText(paths.settingsScript, making);

@@ -1,7 +1,6 @@
 #include "preview/SimulatedTool.h"
 
 #include "json/JsonReader.h"
-#include "preview/DeviceState.h"
 #include "preview/FieldInterfaces.h"
 #include "preview/MenuValues.h"
 
@@ -13,7 +12,7 @@
 namespace {
 
 struct Call {
-    QStringList words; ///< command words and instance number
+    QStringList words; ///< of the command, the number of a compartment or meter included
     QVariantList values; ///< to be written
     bool isWrite = false;
 };
@@ -47,36 +46,40 @@ void logCall(const QString &directory, const QStringList &arguments)
     log.write(deviceJson(line) + '\n');
 }
 
-QVariant sealStatus(const QVariant &state)
+QVariant answerTo(const Call &call, const QString &file, DeviceState &state)
 {
-    const bool isClosed =
-        valueAt(state, valueAt(state, { QStringLiteral("seal") }).toList()).toBool();
-    return QVariantList { isClosed ? QStringLiteral("i18n_wm_true")
-                                   : QStringLiteral("i18n_wm_false") };
-}
-
-QVariant answerOfWrite(bool isAccepted, const QString &file, const QVariant &state)
-{
-    return QVariantList { isAccepted && saveState(file, state) };
-}
-
-QVariant answerTo(const Call &call, const QString &file, QVariant &state)
-{
+    const auto writeAnswer = [&](bool isAccepted) {
+        return QVariantList { isAccepted && saveState(file, state) };
+    };
     const QString command = call.words.value(0);
-    if (command == QLatin1String("get_menu_electronic_seal_status"))
-        return sealStatus(state);
+    if (command == QLatin1String("get_menu_electronic_seal_status")) {
+        const bool isClosed = sealValue(state).toBool();
+        return QVariantList { QLatin1String(isClosed ? "i18n_wm_true" : "i18n_wm_false") };
+    }
     if (command == QLatin1String("button_service_diagnose_enable_if"))
-        return answerOfWrite(enableInterface(state, call.values), file, state);
+        return writeAnswer(switchInterface(state, call.values));
+    const QString words = call.words.join(QLatin1Char(' '));
     if (call.isWrite)
-        return answerOfWrite(writeValues(state, call.words, call.values), file, state);
-    QVariant answer = interfaceAnswer(state, command, call.words.value(1));
-    if (!answer.isValid())
-        return readValues(state, call.words);
-    saveState(file, state);
+        return writeAnswer(acceptWrite(state, words, call.values));
+    if (const auto group = state.groups.find(words); group != state.groups.end())
+        return group->second.values;
+    const QVariant answer = interfaceAnswer(state, command, call.words.value(1));
+    if (answer.isValid())
+        saveState(file, state);
     return answer;
 }
 
 } // namespace
+
+QByteArray simulatedAnswer(const QString &directory, const QStringList &arguments)
+{
+    const QString file = stateFile(directory);
+    DeviceState state = loadState(file).value_or(DeviceState());
+    if (arguments.value(0) == QLatin1String("--version"))
+        return state.version.toUtf8();
+    const QVariant answer = answerTo(callFrom(arguments), file, state);
+    return answer.isValid() ? deviceJson(answer) : QByteArray();
+}
 
 int runSimulatedTool(int argc, char **argv)
 {
@@ -86,13 +89,7 @@ int runSimulatedTool(int argc, char **argv)
         arguments += QString::fromUtf8(argv[index]);
     logCall(directory, arguments);
 
-    const QString file = stateFile(directory);
-    QVariant state = loadState(file);
-    QByteArray answer;
-    if (arguments.value(0) == QLatin1String("--version"))
-        answer = valueAt(state, { QStringLiteral("version") }).toByteArray();
-    else if (const QVariant values = answerTo(callFrom(arguments), file, state); values.isValid())
-        answer = deviceJson(values);
+    const QByteArray answer = simulatedAnswer(directory, arguments);
     if (answer.isEmpty())
         return 1;
     std::puts(answer.constData());

@@ -1,6 +1,12 @@
 // The backend tool of the simulated device.
 #pragma once
 
-/// One run of the tool: does what the arguments say on the state beside the link by which the tool
-/// was called, and prints one JSON list. Returns the exit status, 1 when there is no answer.
+#include <QStringList>
+
+/// What the tool of the device in `directory` answers to a call: the version, a JSON list, or
+/// nothing. A write that is accepted, and the drift of an interface's values, change the state.
+QByteArray simulatedAnswer(const QString &directory, const QStringList &arguments);
+
+/// One run of the tool, for the device whose link to it has the name `argv[0]`. Returns the exit
+/// status: 1 when there is no answer.
 int runSimulatedTool(int argc, char **argv);
