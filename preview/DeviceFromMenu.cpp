@@ -23,14 +23,24 @@ QVariant stored(const QVariant &value)
     return parseJson(deviceJson(value)).value_or(QVariant());
 }
 
+// The first value that the menu shows in words; the first one where there is none.
 Sample listSample(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
-    if (!handler.hasDatabaseValues(item))
-        return { 0, QStringLiteral("integer") };
+    const bool isPosition = !handler.hasDatabaseValues(item);
     QVariantList options;
-    for (int position = 0, count = handler.valueCount(item); position < count; ++position)
-        options += stored(handler.databaseValueAt(item, position));
-    return { stored(handler.databaseValueAt(item, 0)), options };
+    QVariant shown;
+    for (int position = 0, count = handler.valueCount(item); position < count; ++position) {
+        const QVariant option =
+            isPosition ? qlonglong(position) : stored(handler.databaseValueAt(item, position));
+        const int textPosition = isPosition ? position : handler.indexOfDatabaseValue(item, option);
+        options += option;
+        if (!shown.isValid() && !textOf(option).isEmpty() && textPosition >= 0
+            && !textOf(handler.valueAt(item, textPosition)).isEmpty())
+            shown = option;
+    }
+    if (!shown.isValid())
+        shown = options.value(0, 0);
+    return { shown, isPosition ? QVariant(QStringLiteral("integer")) : options };
 }
 
 Sample editSample(const TreeViewItemHandler &handler, const TreeViewItem &item, const QString &text)
