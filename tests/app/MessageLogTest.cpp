@@ -1,30 +1,55 @@
-// Messages whose reader does not read: the program does not wait, and what was dropped is counted.
+// Messages to a log daemon or to standard error. A reader that does not read holds up nothing: the
+// program does not wait, and what was dropped is counted.
 #include "app/MessageLog.h"
+#include "tests/support/Rows.h"
 
-#include <QtTest>
+#include <array>
 
 #include <fcntl.h>
 #include <pty.h>
 #include <sys/socket.h>
 #include <sys/un.h>
+#include <syslog.h>
 #include <unistd.h>
 
 namespace {
 
 constexpr int messageCount = 3000; // more than any queue of the system takes
 
+/// What a descriptor that does not block has to read; nothing when there is nothing.
+QByteArray readOnce(int reader)
+{
+    std::array<char, 16384> buffer;
+    const ssize_t size = read(reader, buffer.data(), buffer.size());
+    return { buffer.data(), int(qMax<ssize_t>(size, 0)) };
+}
+
+/// The lines that wait in a pipe or on a terminal.
 QByteArrayList waitingLines(int reader)
 {
     QByteArray text;
-    QByteArray piece(16384, 0);
-    for (ssize_t size = 1; size > 0; text += piece.left(int(size)) + (size < 200 ? "\n" : ""))
-        size = qMax<ssize_t>(read(reader, piece.data(), size_t(piece.size())), 0);
-    QByteArrayList lines = text.split('\n');
-    while (!lines.isEmpty() && lines.last().isEmpty())
-        lines.removeLast();
-    return lines;
+    QByteArray piece = readOnce(reader);
+    while (!piece.isEmpty()) {
+        text += piece;
+        piece = readOnce(reader);
+    }
+    text.chop(1); // the last line break
+    return text.split('\n');
 }
 
+/// The messages that wait in the socket of a log daemon.
+QByteArrayList waitingMessages(int daemon)
+{
+    QByteArrayList messages;
+    QByteArray message = readOnce(daemon);
+    while (!message.isEmpty()) {
+        messages += message;
+        message = readOnce(daemon);
+    }
+    return messages;
+}
+
+/// The socket of a log daemon that is not read unless a test does; -1 when it cannot be made.
 int logDaemon(const QByteArray &path)
 {
     sockaddr_un address = {};
@@ -40,15 +65,15 @@ int logDaemon(const QByteArray &path)
 class MessageLogTest : public QObject {
     Q_OBJECT
 
-    // Of many messages the reader gets all up to where its queue was full, then the number of the
-    // others, and what comes after them.
-    static void dropsWhatDoesNotFit(int reader)
+    const QTemporaryDir folder;
+    const QByteArray socketPath = folder.filePath(QStringLiteral("log")).toLocal8Bit();
+    int terminal = -1; ///< shows what is written to `errorTerminal`
+    int errorTerminal = -1;
+
+    // Of many messages, the reader has got all up to where its queue was full. What comes after
+    // them follows the number of the others.
+    static void checkWhatArrived(const QByteArrayList &first, const QByteArrayList &rest)
     {
-        for (int i = 0; i < messageCount; ++i)
-            qWarning("message of a usual length, number %d", i);
-        const QByteArrayList first = waitingLines(reader);
-        qWarning("last message");
-        const QByteArrayList rest = waitingLines(reader);
         QVERIFY(!first.isEmpty() && first.size() < messageCount);
         for (int i = 0; i < first.size(); ++i)
             QVERIFY2(first[i].endsWith(" number " + QByteArray::number(i)), first[i].constData());
@@ -58,42 +83,99 @@ class MessageLogTest : public QObject {
         QVERIFY2(rest[1].endsWith("last message"), rest[1].constData());
     }
 
+    static void sendMany()
+    {
+        for (int i = 0; i < messageCount; ++i)
+            qWarning("message of a usual length, number %d", i);
+    }
+
+    // Installs the log with standard error on a terminal. The test reports on standard output.
+    int daemonBesideTerminal()
+    {
+        dup2(errorTerminal, STDERR_FILENO);
+        installMessageLog(socketPath);
+        return logDaemon(socketPath);
+    }
+
 private slots:
+    void initTestCase()
+    {
+        QVERIFY(openpty(&terminal, &errorTerminal, nullptr, nullptr, nullptr) == 0);
+        fcntl(terminal, F_SETFL, O_NONBLOCK);
+    }
+
     void fullPipe()
     {
-        int ends[2];
-        QVERIFY(pipe2(ends, O_CLOEXEC) == 0);
+        std::array<int, 2> ends = {};
+        QVERIFY(pipe2(ends.data(), O_CLOEXEC) == 0);
         fcntl(ends[0], F_SETFL, O_NONBLOCK);
-        dup2(ends[1], STDERR_FILENO); // the test reports on standard output
+        dup2(ends[1], STDERR_FILENO);
         installMessageLog();
-        dropsWhatDoesNotFit(ends[0]);
+        sendMany();
+        const QByteArrayList first = waitingLines(ends[0]);
+        qWarning("last message");
+        checkWhatArrived(first, waitingLines(ends[0]));
     }
 
     void silentDaemon()
     {
-        const QTemporaryDir folder;
-        const QByteArray path = folder.filePath(QStringLiteral("log")).toLocal8Bit();
-        int daemon = logDaemon(path);
-        int master = -1;
-        int slave = -1;
-        QVERIFY(daemon >= 0 && openpty(&master, &slave, nullptr, nullptr, nullptr) == 0);
-        dup2(slave, STDERR_FILENO);
-        installMessageLog(path);
-        dropsWhatDoesNotFit(daemon);
+        const int daemon = daemonBesideTerminal();
+        sendMany();
+        const QByteArrayList first = waitingMessages(daemon);
+        qWarning("last message");
+        checkWhatArrived(first, waitingMessages(daemon));
+        QCOMPARE(readOnce(terminal), QByteArray());
+        close(daemon);
+    }
+
+    void restartedDaemon()
+    {
+        int daemon = daemonBesideTerminal();
+        qWarning("before");
         close(daemon);
         qWarning("to nobody");
-        // The reason of a sudden end goes to the terminal.
-        qInstallMessageHandler(nullptr)(QtFatalMsg, {}, QStringLiteral("fatal"));
-        fcntl(master, F_SETFL, O_NONBLOCK);
-        QVERIFY(waitingLines(master).join().contains("fatal"));
-        installMessageLog(path);
-        daemon = logDaemon(path);
-        qWarning("to the new daemon");
-        // "<12>Nov  1 12:34:56 program[123]: text"
-        const QRegularExpression form(QStringLiteral(
-            R"(^<12>[A-Z][a-z]{2} [ 123]\d \d\d:\d\d:\d\d [\w-]+\[\d+\]: to the new daemon$)"));
-        const QByteArray line = waitingLines(daemon).value(1);
-        QVERIFY2(form.match(QString::fromLatin1(line)).hasMatch(), line.constData());
+        daemon = logDaemon(socketPath);
+        qWarning("after");
+        const QByteArrayList messages = waitingMessages(daemon);
+        QCOMPARE(messages.size(), 2);
+        QVERIFY2(messages[0].endsWith("Messages dropped: 1"), messages[0].constData());
+        QVERIFY2(messages[1].endsWith("after"), messages[1].constData());
+        close(daemon);
+    }
+
+    void priority_data()
+    {
+        const Rows<int, int> row("type", "priority");
+        row("debug", QtDebugMsg, LOG_DEBUG);
+        row("info", QtInfoMsg, LOG_INFO);
+        row("warning", QtWarningMsg, LOG_WARNING);
+        row("critical", QtCriticalMsg, LOG_ERR);
+    }
+
+    void priority()
+    {
+        QFETCH(int, type);
+        QFETCH(int, priority);
+        const int daemon = daemonBesideTerminal();
+        qt_message_output(QtMsgType(type), {}, QStringLiteral("text"));
+        const QByteArray message = waitingMessages(daemon).value(0);
+        // As in "<12>Nov  1 12:34:56 program[123]: text".
+        const QRegularExpression form(
+            QStringLiteral(R"(^<%1>[A-Z][a-z]{2} [ 123]\d \d\d:\d\d:\d\d [\w-]+\[\d+\]: text$)")
+                .arg(LOG_USER | priority));
+        QVERIFY2(form.match(QString::fromLatin1(message)).hasMatch(), message.constData());
+        close(daemon);
+    }
+
+    void fatalMessageOnTerminal()
+    {
+        const int daemon = daemonBesideTerminal();
+        // The handler itself: qFatal() would end the test.
+        const QtMessageHandler handler = qInstallMessageHandler(nullptr);
+        handler(QtFatalMsg, {}, QStringLiteral("why it ends"));
+        QVERIFY(readOnce(terminal).contains("why it ends"));
+        QCOMPARE(readOnce(daemon), QByteArray());
+        close(daemon);
     }
 };
 

@@ -5,9 +5,9 @@
 #include "tests/support/FakeDevice.h"
 #include "tests/support/Rows.h"
 
-// What the definitions below are written with. The tool prints the words that it is asked with, so
-// the counts are in the definition.
-static const char prelude[] = R"(
+// Helpers that the definitions below are written with. The tool prints the words that it is asked
+// with, so the counts are in the definition.
+static const char helpers[] = R"(
 function to(css) { return {css: css}; }
 function field(name) { return {i18n: name}; }
 function screen(css, entries) { return {css: css, screens: entries}; }
@@ -17,7 +17,7 @@ function compartmentCount(answer) { return {css: 'btnParameterTruckSetup', 'ajax
     screens: [{}, field('truck_setup_compartments')]}; }
 function meterCount(answer) { return {css: 'btnParameterInterfacesCanFasWm', 'ajax-read': answer,
     screens: {x: field('interfaces_can_fas_wm_fpi')}}; }
-var Settings = {setupStructureVersion: 7}; Settings.settings = )";
+)";
 
 // "name(children)", with the number of the compartment or meter after the name.
 static QString outline(const TreeViewItem &item)
@@ -42,46 +42,88 @@ static void openAll(TreeViewItem &item)
 class TreeTest : public QObject {
     Q_OBJECT
 
-private slots:
-    void builds_data()
+    FakeDevice device;
+    std::unique_ptr<TreeViewItemHandler> handler;
+    std::unique_ptr<TreeViewItem> root;
+    QVector<TreeViewItem *> items; ///< of the opened tree
+
+    // Builds the tree of a script and opens it, with a warning unless `warning` is empty.
+    void build(const QByteArray &script, const QString &warning)
     {
-        const Rows<QByteArray, QString, QString, QString> add(
-            "definition", "tree", "warning", "version");
-        const auto row = [&add](const char *name, const char *definition, const char *tree,
-                             const char *warning = "", const char *version = "7") {
-            add(name, definition, tree, warning, version);
-        };
-        row("in their order",
-            "[screen('r', [field('F'), to('a'), field('G')]), screen('a', [to('a')])]", "r(F a G)",
-            "below itself: \"a\"");
-        row("unknown reference", "[screen('r', [to('gone'), field('F')])]", "r(F)");
+        device.setScript(helpers + script);
+        if (!warning.isEmpty())
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(warning));
+        root.reset();
+        handler = std::make_unique<TreeViewItemHandler>(device.paths());
+        root = handler->build();
+        openAll(*root);
+        items.clear();
+        handler->numberVisibleItems(*root, items);
+        QCOMPARE(menuLines(*handler, *root, 80).size(), items.size());
+    }
+
+private slots:
+    void initTestCase()
+    {
+        device.setTool("printf %s \"$1\"");
+        device.setTranslations("{}");
+        CTranslationHandler::setInstanceRoot(device.paths().webRoot);
+    }
+
+    void screens_data()
+    {
+        const Rows<QByteArray, QString, QString> row("screens", "tree", "warning");
+        row("in their order", "[screen('r', [field('F'), to('a'), field('G')]), screen('a', [])]",
+            "r(F a G)", "");
+        row("unknown reference", "[screen('r', [to('gone'), field('F')])]", "r(F)", "");
         row("equal names", "[screen('r', [to('a')]), screen('a', [field('F')]), to('a')]",
-            "r(a(F))");
-        row("number as name", "[screen('r', [to('7')]), {}, to(7)]", "r(7)");
-        row("object", "[screen('r', {x: to('a'), y: field('F')}), to('a')]", "r(a F)");
-        row("field with entries", "[screen('r', [{i18n: 'F', screens: [field('G')]}])]", "r(F)");
-        row("length of an array", "[screen('r', [field('F')]), {css: '', i18n: 'X'}]", "r(F X)");
+            "r(a(F))", "");
+        row("number as name", "[screen('r', [to('7')]), {}, to(7)]", "r(7)", "");
+        row("object", "[screen('r', {x: to('a'), y: field('F')}), to('a')]", "r(a F)", "");
+        row("field with entries", "[screen('r', [{i18n: 'F', screens: [field('G')]}])]", "r(F)",
+            "");
+        row("length of an array as a reference",
+            "[screen('r', [field('F')]), {css: '', i18n: 'X'}]", "r(F X)", "");
+        row("two ways", "[screen('r', [to('a'), to('b')]), screen('a', [to('b')]), to('b')]",
+            "r(a(b) b)", "");
         row("below itself",
             "[screen('r', [to('a')]), screen('a', [to('b'), field('F')]), screen('b', [to('a')])]",
             "r(a(b F))", "below itself: \"a\"");
         row("root below itself", "[screen('r', [to('r'), field('F')])]", "r(F)", "itself: \"r\"");
-        row("two ways", "[screen('r', [to('a'), to('b')]), screen('a', [to('b')]), to('b')]",
-            "r(a(b) b)");
+        row("no screen at the start", "[,, to('r')]", "", "");
+        row("entries that are none", "[screen('r', [null, 5,, 's', {i18n: null}])]", "r(   null)",
+            "");
+        row("names that all objects have",
+            "[screen('r', {constructor: {}, toString: to('toString'), length: {}}), "
+            "to('toString')]",
+            "r( toString)", "");
+    }
 
+    void screens()
+    {
+        QFETCH(QByteArray, screens);
+        QFETCH(QString, warning);
+        build("var Settings = {settings: " + screens + "};", warning);
+        QTEST(outline(*root), "tree");
+    }
+
+    void counts_data()
+    {
+        const Rows<QByteArray, QString, QString> row("screens", "tree", "warning");
         row("compartments",
-            "[compartments('c', {}), screen('cModifyDo', [to('a'), field('F')]), "
-            "to('a'), compartmentCount('[0, 2]')]",
-            "c(cModifyDo0(a0 F0) cModifyDo1(a1 F1))");
+            "[compartments('c', {}), screen('cModifyDo', [to('a'), field('F')]), to('a'), "
+            "compartmentCount('[0, 2]')]",
+            "c(cModifyDo0(a0 F0) cModifyDo1(a1 F1))", "");
         row("meters", "[meters('m', []), screen('mModifyDo', [field('F')]), meterCount('[1]')]",
-            "m(mModifyDo0(F0))");
+            "m(mModifyDo0(F0))", "");
         row("count of the others", "[meters('m', {}), to('mModifyDo'), compartmentCount('[0, 2]')]",
-            "m");
-        row("negative count", "[meters('m', {}), to('mModifyDo'), meterCount('[-1]')]", "m");
-        row("text as count", "[meters('m', {}), to('mModifyDo'), meterCount('[\"1\"]')]",
-            "m(mModifyDo0)");
+            "m", "");
         row("own entries", "[meters('m', [field('F')]), to('mModifyDo'), meterCount('[1]')]",
-            "m(F)");
-        row("nothing to repeat", "[meters('m', {}), meterCount('[1]')]", "m");
+            "m(F)", "");
+        row("nothing to repeat", "[meters('m', {}), meterCount('[1]')]", "m", "");
+        row("text", "[meters('m', {}), to('mModifyDo'), meterCount('[\"1\"]')]", "m(mModifyDo0)",
+            "");
+        row("negative", "[meters('m', {}), to('mModifyDo'), meterCount('[-1]')]", "m", "");
         row("too many", "[compartments('c', {}), to('cModifyDo'), compartmentCount('[0, 1000]')]",
             "c", "compartments.*1000");
         row("beyond 32 bits", "[meters('m', {}), to('mModifyDo'), meterCount('[4294967297]')]", "m",
@@ -91,75 +133,103 @@ private slots:
             "^!ajaxResult.count\\(\\)$");
         row("no entry for the count", "[screen('btnParameterTruckSetup', [])]",
             "btnParameterTruckSetup", "^!searchIndexFound$");
-        row("no binding",
+        row("no screens", "[to('btnParameterTruckSetup')]", "btnParameterTruckSetup",
+            "^!screens.isValid\\(\\)$");
+        row("no words",
             "[to('r'), screen('btnParameterTruckSetup', [field('truck_setup_compartments')])]", "r",
             "^!ajaxRead.isValid\\(\\)$");
-
-        row("same words for both counts",
-            "[meters('m', []), to('mModifyDo'), compartmentCount('[1, 2]'), meterCount('[1, 2]')]",
-            "m(mModifyDo0)");
-
-        row("no version", "0; Settings = {settings: [to('r')]}", "r", "", "");
-        row("logbook of the web interface", "[to('r')]; datatransferLogbookHandler.x = 1", "r");
-        row("exception", "0; throw new Error('say \"no\"')", "",
-            R"(^scriptValues.isError\(\)\) "message" "say "no""$)", "/");
-        row("syntax error", "= 1", "", R"(^scriptValues.isError\(\)\) "message" "Parse error"$)",
-            "/");
-        row("screens are no list", "'abc'", "",
-            "^The settings script defines no array of screens: \".*settings.js\"$");
-        row("screens without an end", "new Array(4294967295)", "");
-        row("no screen at the start", "[,, to('r')]", "");
-        row("no settings", "0; Settings = null", "", "", "");
-        row("screens that throw", "0; Settings = {get settings() { throw 'x' }}", "",
-            "^The settings script threw \"x\" in \".*settings.js\" line 11$", "");
-        row("entries that are none", "[screen('r', [null, 5,, 's', {i18n: null}])]", "r(   null)");
-        row("attributes that throw",
-            "[screen('r', [{i18n: 'F', get values() { throw 1 }, inputType: 'dropdown'}])]",
-            "r(F)");
-        row("values within themselves",
-            "[]; var a = []; a.push(a); Settings.settings = "
-            "[screen('r', [{i18n: 'F', values: a, dbValues: a, inputType: 'dropdown'}])]",
-            "r(F)");
-        row("names of all objects",
-            "[screen('r', {constructor: {}, toString: to('toString'), length: {}}), "
-            "to('toString')]",
-            "r( toString)");
-
-        row("many screens",
-            "0; var s = Settings.settings = [screen('r', [])];"
-            "for (var i = 0; i < 100000; i++) { s.push(to(i)); s[0].screens.push(to(i)) }",
-            "100000");
-        row("450 references to 450 references",
-            "0; var many = [], more = [];"
-            "for (var i = 0; i < 450; i++) { many.push(to('a')); more.push(to('b')) }"
-            "Settings.settings = [screen('r', many), screen('a', more), to('b')]",
-            "200000", "too large");
-        row("each below the one before",
-            "0; var s = Settings.settings = [screen('r', [to(0)])];"
-            "for (var i = 0; i < 5000; i++) s.push(screen(i, [to(i + 1)]))",
-            "1000", "too large");
     }
 
-    void builds()
+    void counts()
     {
-        QFETCH(QByteArray, definition);
-        QFETCH(QString, warning);
-        FakeDevice device;
-        device.setTool("printf %s \"$1\"");
-        device.setScript(prelude + definition);
-        device.setTranslations("{}");
-        CTranslationHandler::setInstanceRoot(device.paths().webRoot);
-        TreeViewItemHandler handler(device.paths());
-        if (!warning.isEmpty())
-            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(warning));
-        const std::unique_ptr<TreeViewItem> root = handler.build();
-        openAll(*root);
-        QVector<TreeViewItem *> items;
-        handler.numberVisibleItems(*root, items);
-        QTEST(items.size() < 100 ? outline(*root) : QString::number(items.size()), "tree");
-        QTEST(handler.setupStructureVersion(), "version");
-        QCOMPARE(menuLines(handler, *root, 80).size(), items.size());
+        screens();
         QCOMPARE(device.takeCalls().removeDuplicates(), 0);
+    }
+
+    void mostCompartments()
+    {
+        build("var Settings = {settings: [compartments('c', {}), to('cModifyDo'), "
+              "compartmentCount('[0, 999]')]};",
+            {});
+        QCOMPARE(items.size(), 999);
+    }
+
+    void equalWordsAskOnce()
+    {
+        device.takeCalls();
+        build("var Settings = {settings: [meters('m', []), to('mModifyDo'), "
+              "compartmentCount('[1, 2]'), meterCount('[1, 2]')]};",
+            {});
+        QCOMPARE(outline(*root), QStringLiteral("m(mModifyDo0)"));
+        QCOMPARE(device.takeCalls(), QStringList(QStringLiteral("[1, 2]")));
+    }
+
+    void scripts_data()
+    {
+        const Rows<QByteArray, QString, QString, QString> row(
+            "script", "tree", "version", "warning");
+        row("version", "var Settings = {setupStructureVersion: 7, settings: [to('r')]};", "r", "7",
+            "");
+        row("no version", "var Settings = {settings: [to('r')]};", "r", "", "");
+        row("logbook of the web interface",
+            "var Settings = {settings: [to('r')]}; datatransferLogbookHandler.x = 1;", "r", "", "");
+        row("syntax error", "= 1", "", "/",
+            R"(^scriptValues.isError\(\)\) "message" "Parse error"$)");
+        row("error that is thrown",
+            "var Settings = {settings: [to('r')]}; throw new Error('say \"no\"');", "", "/",
+            R"(^scriptValues.isError\(\)\) "message" "say "no""$)");
+        row("screens that throw", "var Settings = {get settings() { throw 'x' }};", "", "",
+            "^The settings script threw \"x\" in \".*settings.js\" line 11$");
+        row("screens are no list", "var Settings = {settings: 'abc'};", "", "",
+            "^The settings script defines no array of screens: \".*settings.js\"$");
+        row("screens without an end", "var Settings = {settings: new Array(4294967295)};", "", "",
+            "");
+        row("null", "var Settings = null;", "", "", "defines no array");
+        row("attributes that throw",
+            "var item = {i18n: 'F', get values() { throw 1 }, inputType: 'dropdown'};"
+            "var Settings = {settings: [screen('r', [item])]};",
+            "r(F)", "", "");
+        row("values within themselves",
+            "var a = []; a.push(a);"
+            "var item = {i18n: 'F', values: a, dbValues: a, inputType: 'dropdown'};"
+            "var Settings = {settings: [screen('r', [item])]};",
+            "r(F)", "", "");
+    }
+
+    void scripts()
+    {
+        QFETCH(QByteArray, script);
+        QFETCH(QString, warning);
+        build(script, warning);
+        QTEST(outline(*root), "tree");
+        QTEST(handler->setupStructureVersion(), "version");
+    }
+
+    void growth_data()
+    {
+        const Rows<QByteArray, int, QString> row("script", "items", "warning");
+        row("many screens",
+            "var screens = [screen('r', [])];"
+            "for (var i = 0; i < 100000; i++) { screens.push(to(i)); "
+            "screens[0].screens.push(to(i)); }",
+            100000, "");
+        row("450 references to 450 references",
+            "var many = [], more = [];"
+            "for (var i = 0; i < 450; i++) { many.push(to('a')); more.push(to('b')); }"
+            "var screens = [screen('r', many), screen('a', more), to('b')];",
+            200000, "too large");
+        row("each below the one before",
+            "var screens = [screen('r', [to(0)])];"
+            "for (var i = 0; i < 5000; i++) screens.push(screen(i, [to(i + 1)]));",
+            1000, "too large");
+    }
+
+    void growth()
+    {
+        QFETCH(QByteArray, script);
+        QFETCH(QString, warning);
+        build(script + "var Settings = {settings: screens};", warning);
+        QTEST(items.size(), "items");
     }
 };
 
