@@ -1,5 +1,6 @@
 #include "backend/BackendTool.h"
 #include "menu/TreeViewItemHandler.h"
+#include "terminal/PtySession.h"
 #include "tests/support/FakeDevice.h"
 #include "tests/support/Rows.h"
 
@@ -150,22 +151,49 @@ private slots:
         QCOMPARE(status, 0);
     }
 
-    void takesWhatItCan()
+    void takesAnswersUpTo16MiB()
     {
         device.setTool("head -c $1 /dev/zero");
         QCOMPARE(handler.scriptHelper().run({ QStringLiteral("16777216") }).size(), 16777216);
         QCOMPARE(handler.scriptHelper().run({ QStringLiteral("16777217") }).size(), 0);
+    }
+
+    void killsWhatPrintsWithoutEnd()
+    {
+        const int timeoutMs = int(PtySession::scaled(5000));
+        device.setTool("exec cat /dev/zero");
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(BackendTool::run(device.paths().backendTool, {}, timeoutMs), QByteArray());
+        QVERIFY(timer.elapsed() < timeoutMs);
+    }
+
+    void startsToolsWithUsualSignals()
+    {
         device.setTool("grep SigIgn /proc/self/status");
         signal(SIGCHLD, SIG_IGN);
         signal(SIGPIPE, SIG_IGN);
-        const QByteArray ignored = handler.scriptHelper().run({ word }).trimmed().right(16);
-        QVERIFY2(
-            ignored.size() == 16 && (ignored.toULongLong(nullptr, 16) & 0x11000) == 0, ignored);
+        const QByteArray answer = handler.scriptHelper().run({ word }).trimmed();
         signal(SIGCHLD, SIG_DFL);
+        bool isMask = false;
+        const quint64 ignored = answer.right(16).toULongLong(&isMask, 16);
+        QVERIFY2(isMask, answer.constData());
+        QCOMPARE(ignored & (1ULL << (SIGCHLD - 1) | 1ULL << (SIGPIPE - 1)), 0ULL);
+    }
+
+    void startsNoOtherFiles_data()
+    {
+        const Rows<QString> row("path");
+        row("not executable", "/scripts/settings.js");
+        row("folder", "/scripts");
+        row("none", "/none");
+    }
+
+    void startsNoOtherFiles()
+    {
+        QFETCH(QString, path);
         device.setScript("not executable");
-        for (const char *name : { "/scripts/settings.js", "/scripts", "/none" })
-            QCOMPARE(
-                BackendTool::run(device.paths().webRoot + QLatin1String(name), {}), QByteArray());
+        QCOMPARE(BackendTool::run(device.paths().webRoot + path, {}), QByteArray());
     }
 };
 

@@ -1,4 +1,6 @@
 // The console on a terminal, on good days and bad ones.
+#include "app/Session.h"
+#include "backend/BackendTool.h"
 #include "tests/e2e/Session.h"
 #include "tests/support/Rows.h"
 #include "tests/support/RunProgram.h"
@@ -30,6 +32,32 @@ private slots:
             runProgram(QStringLiteral(CONSOLE), words.split(QLatin1Char(' ')));
         QCOMPARE(result.end, (ExitStatus { ExitStatus::Exited, 255 }));
         QTEST(result.output, "output");
+    }
+
+    void documentedDefaults_data()
+    {
+        const Rows<QString, QByteArray> row("manual", "sentence");
+        const DevicePaths paths;
+        const QByteArray patience = QByteArray::number(BackendTool::patienceMs / 1000);
+        const QByteArray idleMs = QByteArray::number(SessionOptions().idleMs);
+        row("menu definition", "dravikon.1", ".It Pa " + paths.settingsScript.toUtf8());
+        row("English texts", "dravikon.1",
+            ".It Pa " + paths.webRoot.toUtf8() + "/locales/en/translation.json");
+        row("backend tool", "dravikon.1", ".It Pa " + paths.backendTool.toUtf8());
+        row("patience with the tool", "dravikon.1",
+            "a tool that takes longer than " + patience + " seconds is killed");
+        row("idle time", "dravikon-preview.1",
+            "milliseconds without a key; without it, " + idleMs + '.');
+    }
+
+    // What nobody can set has the value that the manual pages name.
+    void documentedDefaults()
+    {
+        QFETCH(QString, manual);
+        QFETCH(QByteArray, sentence);
+        QFile file(QStringLiteral(SOURCES "/packaging/") + manual);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY2(file.readAll().simplified().contains(sentence), sentence.constData());
     }
 
     void badDays_data()
@@ -78,13 +106,24 @@ private slots:
         QCOMPARE(session.waitForExit(), endedWell);
     }
 
+    void terminalWithoutSize_data()
+    {
+        const Rows<int, int> row("rows", "columns");
+        row("none", 0, 0);
+        row("no rows", 0, 132);
+        row("no columns", 50, 0);
+    }
+
+    // It counts as one of 24 rows and 80 columns.
     void terminalWithoutSize()
     {
+        QFETCH(int, rows);
+        QFETCH(int, columns);
         Session session;
         QVERIFY(session.start() && session.press(keysToDiagnoseScreen) && session.waitForRest());
         const QStringList before = session.terminal().screen();
         session.mark();
-        session.setSize(0, 0);
+        session.setSize(rows, columns);
         QVERIFY(session.waitFor([&] { return session.bytesSinceMark().contains("Drav"); }));
         QVERIFY(session.waitForRest());
         QCOMPARE(session.terminal().screen(), before);
