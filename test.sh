@@ -19,10 +19,11 @@ build_and_test() {
 
 cmake/install-missing.sh g++ cmake ninja-build pkg-config \
     qtbase5-dev qtscript5-dev rapidjson-dev libvterm-dev
-[ $# = 0 ] || cmake/install-missing.sh git clang clang-format clang-tidy cppcheck libclang-rt-14-dev
-
 build_and_test dev
 [ $# = 1 ] || exit 0
+
+cmake/install-missing.sh git clang clang-format clang-tidy cppcheck
+cmake/install-missing.sh "libclang-rt-$(clang -dumpversion | cut -d. -f1)-dev"
 
 echo "== format"
 git ls-files -z -- '*.cpp' '*.h' | xargs -0 clang-format --dry-run -Werror

@@ -8,7 +8,7 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 include(CheckPIESupported)
 check_pie_supported(LANGUAGES CXX)
 
-add_compile_options(-Wall -Wextra -Wpedantic -Werror -fstack-protector-strong)
+add_compile_options(-Wall -Wextra -Wpedantic -fstack-protector-strong)
 add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_DEPRECATED_WARNINGS
     QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
 

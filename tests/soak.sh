@@ -6,8 +6,9 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 sessions=${1:-200} keys=${2:-1000} runs=${3:-10000000} seed=${4:-$RANDOM}
 
-cmake/install-missing.sh g++ clang cmake ninja-build pkg-config libclang-rt-14-dev \
+cmake/install-missing.sh g++ clang cmake ninja-build pkg-config \
     qtbase5-dev qtscript5-dev rapidjson-dev libvterm-dev
+cmake/install-missing.sh "libclang-rt-$(clang -dumpversion | cut -d. -f1)-dev"
 export LSAN_OPTIONS="suppressions=$PWD/cmake/leaks.supp:print_suppressions=0"
 
 for preset in asan fuzz dev; do
