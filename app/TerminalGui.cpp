@@ -12,8 +12,8 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-TerminalGui::TerminalGui(const DevicePaths &paths, Screen::Sink sink)
-    : handler(paths)
+TerminalGui::TerminalGui(const DevicePaths &paths, Screen::Sink sink, const ToolRunner &runTool)
+    : handler(paths, runTool)
     , screen(std::move(sink))
 {
     updateWindowSize();

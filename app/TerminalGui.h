@@ -14,14 +14,17 @@ class TerminalGui : public QObject {
     Q_OBJECT
 public:
     /// Reads the window size and switches the terminal to single keys; draws nothing yet. All
-    /// output goes to `sink`, so that keys can also be played without a terminal.
-    TerminalGui(const DevicePaths &paths, Screen::Sink sink);
+    /// output goes to `sink`, so that keys can also be played without a terminal. `runTool` takes
+    /// the place of running the backend tool.
+    TerminalGui(const DevicePaths &paths, Screen::Sink sink, const ToolRunner &runTool = {});
 
     /// Restores the terminal and leaves it cleared.
     ~TerminalGui() override;
 
     /// Takes over the size of the terminal, 80 x 24 when it does not report it.
     void updateWindowSize();
+
+    const ViewState &viewState() const { return state; }
 
     /// Switches to the requested view, if any, and draws the current one.
     void refreshView();

@@ -1,50 +1,46 @@
-// The menu of a generated definition, drawn into memory as the session draws it on a terminal.
+// Menus of generated definitions, without a terminal and without runs of a tool.
 #pragma once
 
-#include "menu/TreeViewItemHandler.h"
-#include "render/Screen.h"
-#include "render/ViewState.h"
+#include "app/TerminalGui.h"
+#include "bench/DeviceFiles.h"
 
-#include "tests/support/FakeDevice.h"
+/// The answer of a tool that fails.
+inline QByteArray noAnswer(const QStringList &)
+{
+    return {};
+}
 
-#include <memory>
-
-/// A settings script with `count` screens, at least 20: a tenth of them hold references to the
-/// others, which are at the end of the array and hold three fields each.
-QByteArray scriptWithScreens(int count);
-
-/// A settings script whose root holds `count` fields.
-QByteArray scriptWithFields(int count);
-
-/// Takes the same steps as the session does for a key, but runs no tool: this measures the work of
-/// the console itself.
-class MenuSession {
+/// The tree of a menu definition.
+class MenuTree {
 public:
-    explicit MenuSession(const QByteArray &script);
+    explicit MenuTree(const QByteArray &script);
 
     /// Opens everything below the root, with a value in every field.
     void openAll();
 
-    /// Composes the screen and writes the rows that changed.
-    void draw();
+    DeviceFiles device;
+    TreeViewItemHandler handler;
+    const std::unique_ptr<TreeViewItem> root;
+};
 
-    /// Moves the selection and draws.
-    void move(int lines);
+/// A session on a menu definition: takes keys and counts what it would write to the terminal.
+class MenuSession {
+public:
+    explicit MenuSession(const QByteArray &script, const ToolRunner &tool = noAnswer);
 
-    /// Opens or closes the selected item and draws.
-    void toggle();
+    void press(Qt::Key key, int times = 1);
+
+    /// Opens everything, with a value in every field. The selected item must be a screen of fields.
+    void openAll();
+
+    /// The item on a line of the menu, from 0.
+    TreeViewItem &itemAt(int line) const { return *gui.viewState().visibleItems.at(line); }
 
     /// The number of bytes written since the last call.
     qint64 takeWritten();
 
-    FakeDevice device;
-    TreeViewItemHandler handler;
-    std::unique_ptr<TreeViewItem> root;
-    ViewState state;
-
 private:
-    void numberItems();
-
+    DeviceFiles device;
     qint64 written = 0;
-    Screen screen;
+    TerminalGui gui;
 };

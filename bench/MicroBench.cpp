@@ -1,11 +1,12 @@
 // Runs the benchmarks of single functions.
+#include "bench/DeviceFiles.h"
 #include "locale/CTranslationHandler.h"
-
-#include "tests/support/FakeDevice.h"
 
 #include <QCoreApplication>
 
 #include <benchmark/benchmark.h>
+
+#include <cstdio>
 
 namespace {
 
@@ -27,9 +28,12 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     // Warnings about the generated definitions are of no interest.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    FakeDevice webInterface;
-    webInterface.setTranslations(translations());
-    CTranslationHandler::setInstanceRoot(webInterface.paths().webRoot);
+    // Sessions take their size from standard input: 80 x 24 where it is no terminal.
+    if (!std::freopen("/dev/null", "r", stdin))
+        return 1;
+    DeviceFiles webInterface;
+    webInterface.writeTranslations(translations());
+    CTranslationHandler::setInstanceRoot(webInterface.webRoot());
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;

@@ -2,82 +2,57 @@
 #include "bench/Allocations.h"
 #include "bench/MenuSession.h"
 
-#include "diagnose/AsScreen.h"
-#include "diagnose/PagedScreen.h"
-#include "diagnose/TagScreen.h"
-#include "render/ValueDialog.h"
-
-#include <QVector>
-
 namespace {
 
-const QByteArray script = "var Settings = { setupStructureVersion: 7, settings: [{ screens: ["
-                          "{ i18n: 'list', inputType: 'dropdown', remote: 1,"
-                          "  values: ['first', 'second', 'third', 'fourth'] },"
-                          "{ i18n: 'switch', inputType: 'boolean', remote: 1 },"
-                          "{ i18n: 'slider', inputType: 'slider', remote: 1,"
-                          "  min: 0, max: 100, step: 5 },"
-                          "{ i18n: 'text', inputType: 'edit', remote: 1, validation: 'C20' }"
-                          "] }] };";
+const QByteArray script =
+    "var Settings = { setupStructureVersion: 7, settings: [{ screens: ["
+    "{ i18n: 'list', inputType: 'dropdown', remote: 1,"
+    "  values: ['first', 'second', 'third', 'fourth'] },"
+    "{ i18n: 'switch', inputType: 'boolean', remote: 1 },"
+    "{ i18n: 'slider', inputType: 'slider', remote: 1, min: 0, max: 100, step: 5 },"
+    "{ i18n: 'text', inputType: 'edit', remote: 1, validation: 'C20' },"
+    "{ css: 'btnServiceDiagnoseSpdInterfaces', remote: 1 },"
+    "{ css: 'btnServiceDiagnoseIOInterfaces', remote: 1 },"
+    "{ css: 'btnServiceDiagnoseTagInterfaces', remote: 1 },"
+    "{ css: 'btnServiceDiagnoseAsInterfaces', remote: 1 }"
+    "] }, { css: 'btnServiceDiagnoseSpdInterfaces', type: 'status' },"
+    "{ css: 'btnServiceDiagnoseIOInterfaces', type: 'status' },"
+    "{ css: 'btnServiceDiagnoseTagInterfaces', type: 'status' },"
+    "{ css: 'btnServiceDiagnoseAsInterfaces', type: 'status' }] };";
 
-void drawDialog(benchmark::State &state, int field)
+// Opens the box of the item on `line` and draws it again with each key.
+void drawBox(benchmark::State &state, int line, const ToolRunner &tool)
 {
-    MenuSession session(script);
-    session.state.currentView = EditView;
-    session.state.selectedIndex = field;
-    TreeViewItem &item = *session.root->children.at(size_t(field));
-    item.value = 1;
+    MenuSession session(script, tool);
+    session.itemAt(line).value = 1;
+    session.press(Qt::Key_Down, line);
+    session.press(Qt::Key_Return);
     const Allocations allocations(state);
-    for (auto _ : state) {
-        session.state.overlayLines = valueDialog(session.state, session.handler, item);
-        session.draw();
-    }
+    for (auto _ : state)
+        session.press(Qt::Key_unknown);
+}
+
+void drawDialog(benchmark::State &state, int line)
+{
+    drawBox(state, line, noAnswer);
 }
 BENCHMARK_CAPTURE(drawDialog, list, 0);
 BENCHMARK_CAPTURE(drawDialog, boolean, 1);
 BENCHMARK_CAPTURE(drawDialog, slider, 2);
 BENCHMARK_CAPTURE(drawDialog, edit, 3);
 
-QVariant numbers(int count)
+// With the decoding of the tool's answer.
+void drawDiagnose(benchmark::State &state, int line, const QByteArray &answer)
 {
-    QVariantList list;
-    for (int number = 0; number < count; ++number)
-        list.append(number * 37);
-    return list;
+    drawBox(state, line, [answer](const QStringList &) { return answer; });
 }
-
-QVariantList versionsAnd(const QVariantList &rest)
-{
-    return QVariantList { QStringLiteral("2.07"), QStringLiteral("B") } + rest;
-}
-
-template <typename Draw> void drawDiagnose(benchmark::State &state, Draw draw)
-{
-    MenuSession session(script);
-    session.state.currentView = DiagnoseView;
-    const Allocations allocations(state);
-    for (auto _ : state) {
-        session.state.overlayLines = buildBox(24, 80, 24);
-        draw(session.state.overlayLines);
-        session.draw();
-    }
-}
-BENCHMARK_CAPTURE(drawDiagnose, spd, [](Frame &frame) {
-    static const QVariantList answer { QVariant(versionsAnd({ numbers(20) })) };
-    drawPagedScreen(frame, spdLayout, 0, answer);
-});
-BENCHMARK_CAPTURE(drawDiagnose, io, [](Frame &frame) {
-    static const QVariantList answer { QVariant(versionsAnd({ numbers(2), numbers(8) })) };
-    drawPagedScreen(frame, ioLayout, 0, answer);
-});
-BENCHMARK_CAPTURE(drawDiagnose, tag, [](Frame &frame) {
-    static const QVariantList tag = numbers(9).toList();
-    drawTagScreen(frame, versionsAnd({}), tag);
-});
-BENCHMARK_CAPTURE(drawDiagnose, as, [](Frame &frame) {
-    static const QVariantList sensors = QVector<QVariant>(12, numbers(2)).toList();
-    QString note;
-    drawAsScreen(frame, versionsAnd({ QVariant(sensors) }), note);
-});
+BENCHMARK_CAPTURE(drawDiagnose, spd, 4,
+    "[[\"2.07\",\"B\",[0,37,74,111,148,185,222,259,296,333,"
+    "370,407,444,481,518,555,592,629,666,703]]]");
+BENCHMARK_CAPTURE(drawDiagnose, io, 5, "[[\"2.07\",\"B\",[0,37],[0,37,74,111,148,185,222,259]]]");
+BENCHMARK_CAPTURE(drawDiagnose, tag, 6, "[0,37,74,111,148,185,222,259,296]");
+BENCHMARK_CAPTURE(drawDiagnose, as, 7,
+    "[\"2.07\",\"B\",[[0,37],[0,37],[0,37],[0,37],[0,37],[0,37],"
+    "[0,37],[0,37],[0,37],[0,37],[0,37],[0,37]]]");
 
 } // namespace

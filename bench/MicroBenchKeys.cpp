@@ -1,5 +1,6 @@
 // Keys in the menu, from their dispatch to the bytes written.
 #include "bench/Allocations.h"
+#include "bench/MenuDefinitions.h"
 #include "bench/MenuSession.h"
 
 namespace {
@@ -10,37 +11,36 @@ void itemCounts(benchmark::internal::Benchmark *bench)
     bench->Unit(benchmark::kMicrosecond)->Complexity(benchmark::oAuto);
 }
 
-// Moves by `lines` and back, from the middle of the second page.
-void moveAndBack(benchmark::State &state, int lines)
+// Presses a key and the key that reverts it, from the middle of the second page.
+void moveAndBack(benchmark::State &state, Qt::Key key, Qt::Key backKey)
 {
     MenuSession session(scriptWithFields(int(state.range(0))));
-    session.state.selectedIndex = 30;
-    session.draw();
+    session.press(Qt::Key_Down, 30);
     session.takeWritten();
     const Allocations allocations(state);
     for (auto _ : state) {
-        session.move(lines);
-        lines = -lines;
+        session.press(key);
+        std::swap(key, backKey);
     }
     state.counters["written"] =
         benchmark::Counter(double(session.takeWritten()), benchmark::Counter::kAvgIterations);
     state.SetComplexityN(state.range(0));
 }
-BENCHMARK_CAPTURE(moveAndBack, line, 1)->Apply(itemCounts);
-BENCHMARK_CAPTURE(moveAndBack, page, -22)->Apply(itemCounts);
-BENCHMARK_CAPTURE(moveAndBack, nowhere, 0)->Apply(itemCounts);
+BENCHMARK_CAPTURE(moveAndBack, line, Qt::Key_Down, Qt::Key_Up)->Apply(itemCounts);
+BENCHMARK_CAPTURE(moveAndBack, page, Qt::Key_PageUp, Qt::Key_PageDown)->Apply(itemCounts);
+BENCHMARK_CAPTURE(moveAndBack, nowhere, Qt::Key_unknown, Qt::Key_unknown)->Apply(itemCounts);
 
 // Opens and closes a screen of three fields; all other screens are open.
 void toggleScreen(benchmark::State &state)
 {
     MenuSession session(scriptWithScreens(int(state.range(0))));
+    session.press(Qt::Key_Return); // a group of screens
+    session.press(Qt::Key_Down);
     session.openAll();
-    session.state.selectedIndex = 1;
-    session.draw();
     session.takeWritten();
     const Allocations allocations(state);
     for (auto _ : state)
-        session.toggle();
+        session.press(Qt::Key_Return);
     state.counters["written"] =
         benchmark::Counter(double(session.takeWritten()), benchmark::Counter::kAvgIterations);
     state.SetComplexityN(state.range(0));

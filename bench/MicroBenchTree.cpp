@@ -1,5 +1,6 @@
 // The menu tree: evaluating its definition, building, numbering and rendering it.
 #include "bench/Allocations.h"
+#include "bench/MenuDefinitions.h"
 #include "bench/MenuSession.h"
 
 #include "menu/ScreenIndex.h"
@@ -23,7 +24,7 @@ void screenCountsFromCold(benchmark::internal::Benchmark *bench)
     bench->Iterations(20); // most of the time goes into the unmeasured preparation
 }
 
-// Evicts all data from the processor's caches, as at the start of a session. Otherwise a small menu
+// Evicts all data from the processor's caches, as at the start of a menu. Otherwise a small menu
 // would be measured in the caches and a large one out of them.
 void chillCaches(benchmark::State &state, bool cold)
 {
@@ -51,10 +52,9 @@ BENCHMARK(evaluateScript)->Apply(screenCounts);
 
 void buildTreeOfScreens(benchmark::State &state, bool cold)
 {
-    FakeDevice device;
-    device.setScript(scriptWithScreens(int(state.range(0))));
-    TreeViewItemHandler handler(device.paths());
-    const QScriptValue settings = handler.scriptHelper().load();
+    MenuTree menu(scriptWithScreens(int(state.range(0))));
+    const TreeViewItemHandler &handler = menu.handler;
+    const QScriptValue settings = menu.handler.scriptHelper().load();
     const Allocations allocations(state);
     for (auto _ : state) {
         chillCaches(state, cold);
@@ -70,13 +70,13 @@ BENCHMARK_CAPTURE(buildTreeOfScreens, cold, true)->Apply(screenCountsFromCold);
 
 void numberVisibleItems(benchmark::State &state, bool cold)
 {
-    MenuSession session(scriptWithScreens(int(state.range(0))));
-    session.openAll();
+    MenuTree menu(scriptWithScreens(int(state.range(0))));
+    menu.openAll();
     const Allocations allocations(state);
     for (auto _ : state) {
         chillCaches(state, cold);
         QVector<TreeViewItem *> items;
-        session.handler.numberVisibleItems(*session.root, items);
+        menu.handler.numberVisibleItems(*menu.root, items);
         benchmark::DoNotOptimize(items);
     }
     state.SetComplexityN(state.range(0));
@@ -86,13 +86,13 @@ BENCHMARK_CAPTURE(numberVisibleItems, cold, true)->Apply(screenCountsFromCold);
 
 void renderItemLines(benchmark::State &state, bool cold)
 {
-    MenuSession session(scriptWithScreens(int(state.range(0))));
-    session.openAll();
+    MenuTree menu(scriptWithScreens(int(state.range(0))));
+    menu.openAll();
     const Allocations allocations(state);
+    QString note;
     for (auto _ : state) {
         chillCaches(state, cold);
-        const Frame lines =
-            menuLines(session.handler, *session.root, 80, &session.state.statusText);
+        const Frame lines = menuLines(menu.handler, *menu.root, 80, &note);
         benchmark::DoNotOptimize(&lines);
     }
     state.SetComplexityN(state.range(0));
@@ -102,12 +102,12 @@ BENCHMARK_CAPTURE(renderItemLines, cold, true)->Apply(screenCountsFromCold);
 
 template <typename Query> void askOfField(benchmark::State &state, Query query)
 {
-    MenuSession session(scriptWithFields(40));
+    MenuTree menu(scriptWithFields(40));
     // The third field is a list, the input kind that takes the most work.
-    const TreeViewItem &item = *session.root->children.at(2);
+    const TreeViewItem &item = *menu.root->children.at(2);
     const Allocations allocations(state);
     for (auto _ : state)
-        benchmark::DoNotOptimize(query(session.handler, item));
+        benchmark::DoNotOptimize(query(menu.handler, item));
 }
 BENCHMARK_CAPTURE(askOfField, labelKey,
     [](const auto &handler, const auto &item) { return handler.labelKey(item); });

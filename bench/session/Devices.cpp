@@ -40,9 +40,12 @@ QVector<QStringList> DemoDevice::takeCalls()
     if (!log.open(QIODevice::ReadOnly))
         return calls;
     for (const QByteArray &line : log.readAll().split('\n')) {
-        if (!line.isEmpty())
-            calls += QStringList(tool())
-                + QString::fromUtf8(line).split(QChar::Null, Qt::SkipEmptyParts);
+        if (line.isEmpty())
+            continue;
+        QStringList call(tool());
+        for (const QByteArray &argument : line.left(line.size() - 1).split('\0'))
+            call += QString::fromUtf8(argument);
+        calls += call;
     }
     log.remove();
     return calls;
