@@ -4,7 +4,7 @@
 #include "app/SessionEnd.h"
 #include "app/SignalHandlers.h"
 #include "app/TerminalGui.h"
-#include "app/TerminalOutput.h"
+#include "app/TerminalLine.h"
 #include "app/TerminalReader.h"
 #include "locale/CTranslationHandler.h"
 
@@ -47,8 +47,9 @@ int printUsage()
 int runConsole(const SessionOptions &options)
 {
     CTranslationHandler::setInstanceRoot(options.paths.webRoot);
-    auto gui = std::make_unique<TerminalGui>(options.paths, writeToTerminal);
-    auto reader = std::make_unique<TerminalReader>(options.idleMs);
+    TerminalLine line;
+    auto gui = std::make_unique<TerminalGui>(options.paths, line);
+    auto reader = std::make_unique<TerminalReader>(options.idleMs, gui->shownScreen());
     installSessionHandlers(*gui);
     reader->init();
     qRegisterMetaType<Qt::Key>("Qt::Key");

@@ -12,9 +12,9 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-TerminalGui::TerminalGui(const DevicePaths &paths, Screen::Sink sink, const ToolRunner &runTool)
+TerminalGui::TerminalGui(const DevicePaths &paths, Line &line, const ToolRunner &runTool)
     : handler(paths, runTool)
-    , screen(std::move(sink))
+    , screen(line)
 {
     updateWindowSize();
 }
@@ -37,6 +37,7 @@ void TerminalGui::updateWindowSize()
 void TerminalGui::initTerminal()
 {
     screen.clear();
+    screen.beforeWait(false); // for the tool
     prepareTerminal();
     refreshView();
 }
@@ -105,7 +106,6 @@ void TerminalGui::openMenu()
         root = handler.build();
         numberItems();
     }
-    screen.moveCursorTo(0, 0);
     state.overlayLines.clear();
     state.step = 1;
     screen.setCursorVisible(false);
@@ -141,11 +141,8 @@ void TerminalGui::buildOverlay(int line)
     case EditView:
         if (item)
             state.overlayLines = valueDialog(state, handler, *item);
-        if (item && handler.inputKind(*item) == EditInput && !screen.isCursorVisible()) {
-            // From the first row, the line break that follows cannot scroll the screen.
-            screen.moveCursorTo(0, 0);
+        if (item && handler.inputKind(*item) == EditInput && !screen.isCursorVisible())
             screen.setCursorVisible(true);
-        }
         break;
     case DiagnoseView:
         state.overlayLines = diagnoseScreen(state, handler, item);

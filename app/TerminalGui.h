@@ -14,9 +14,9 @@ class TerminalGui : public QObject {
     Q_OBJECT
 public:
     /// Reads the window size and switches the terminal to single keys; draws nothing yet. All
-    /// output goes to `sink`, so that keys can also be played without a terminal. `runTool` takes
+    /// output goes to `line`, so that keys can also be played without a terminal. `runTool` takes
     /// the place of running the backend tool.
-    TerminalGui(const DevicePaths &paths, Screen::Sink sink, const ToolRunner &runTool = {});
+    TerminalGui(const DevicePaths &paths, Line &line, const ToolRunner &runTool = {});
 
     /// Restores the terminal and leaves it cleared.
     ~TerminalGui() override;
@@ -25,6 +25,9 @@ public:
     void updateWindowSize();
 
     const ViewState &viewState() const { return state; }
+
+    /// What the terminal shows. A frame leaves when the screen is told of a wait for input.
+    Screen &shownScreen() { return screen; }
 
     /// Switches to the requested view, if any, and draws the current one.
     void refreshView();

@@ -13,9 +13,10 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-TerminalReader::TerminalReader(int idleMs)
+TerminalReader::TerminalReader(int idleMs, Screen &screen)
     : stdinNotifier(new QSocketNotifier(fileno(stdin), QSocketNotifier::Read, this))
     , idleMs(idleMs)
+    , screen(screen)
 {
     // Bytes that were read ahead would not make standard input readable again.
     static char buffer[1];
@@ -26,6 +27,7 @@ TerminalReader::TerminalReader(int idleMs)
     idleTimer.setTimerType(Qt::PreciseTimer);
     idleTimer.start(idleMs);
     startIdleTime(idleMs);
+    sinceCount.start();
 }
 
 void TerminalReader::init()
@@ -58,16 +60,39 @@ void TerminalReader::waitInLoop()
         QCoreApplication::quit();
 }
 
-// Waits until standard input is readable or `timeoutMs` is over, without limit if that is negative.
-// False when a signal came instead.
-bool TerminalReader::waitForInput(int timeoutMs)
+// Waits until standard input is readable or `limitMs` is over, without limit if that is negative.
+// False when it must be called again: a signal came, or it is time to look at the line.
+bool TerminalReader::waitForInput(int limitMs)
 {
+    const bool isBurst = hasInput();
+    const int frameMs = screen.beforeWait(isBurst);
+    int waitMs = isBurst ? 0 : frameMs;
+    const bool isWholeWait = waitMs < 0 || (limitMs >= 0 && limitMs <= waitMs);
+    if (isWholeWait)
+        waitMs = limitMs;
     pollfd input = { STDIN_FILENO, POLLIN, 0 };
-    const timespec timeout = { timeoutMs / 1000, timeoutMs % 1000 * 1000000L };
-    const bool isWatched = stdinNotifier->isEnabled();
-    const int result =
-        ppoll(&input, isWatched ? 1 : 0, timeoutMs < 0 ? nullptr : &timeout, &waitMask);
-    return result >= 0 || errno != EINTR;
+    const timespec timeout = { waitMs / 1000, waitMs % 1000 * 1000000L };
+    const int result = ppoll(
+        &input, stdinNotifier->isEnabled() ? 1 : 0, waitMs < 0 ? nullptr : &timeout, &waitMask);
+    arrivedBytes = 0; // Ctrl-Z discards what was counted
+    if (!isBurst)
+        screen.afterWait();
+    return result > 0 || (result == 0 && isWholeWait);
+}
+
+// True when keys are known to wait. While the tool runs, more of them come.
+bool TerminalReader::hasInput()
+{
+    constexpr int freshMs = 5;
+    if (arrivedBytes <= 0 && sinceCount.hasExpired(freshMs))
+        countInput();
+    return arrivedBytes > 0;
+}
+
+void TerminalReader::countInput()
+{
+    ioctl(STDIN_FILENO, FIONREAD, &arrivedBytes);
+    sinceCount.start();
 }
 
 // Nothing when the session is ending.
@@ -75,7 +100,6 @@ std::optional<int> TerminalReader::readKey()
 {
     KeyDecoder decoder;
     std::optional<int> key;
-    arrivedBytes = 0;
     while (!key) {
         const std::optional<int> byte = readByte();
         if (!byte)
@@ -91,7 +115,7 @@ std::optional<int> TerminalReader::readByte()
     while (!isSessionEnding()) {
         // A read that blocks would keep SIGWINCH blocked.
         if (arrivedBytes <= 0)
-            ioctl(STDIN_FILENO, FIONREAD, &arrivedBytes);
+            countInput();
         if (arrivedBytes <= 0 && !waitForInput(-1))
             continue;
         --arrivedBytes;

@@ -1,6 +1,9 @@
 // Reads keys from standard input and notices when none comes.
 #pragma once
 
+#include "render/Screen.h"
+
+#include <QElapsedTimer>
 #include <QObject>
 #include <QSocketNotifier>
 #include <QTimer>
@@ -11,13 +14,14 @@
 /// Emits one key each time standard input becomes readable. Bytes of further keys stay with the
 /// terminal, which thus remains readable until the last of them is taken.
 ///
-/// SIGWINCH, which the session blocks, is open only while the reader waits for input: its handler
-/// redraws, so it must interrupt neither an allocation nor a redraw.
+/// Before it waits for input, also for the rest of a key, it lets the screen write. SIGWINCH, which
+/// the session blocks, is unblocked only during these waits: its handler redraws, so it must
+/// interrupt neither an allocation nor a redraw.
 class TerminalReader : public QObject {
     Q_OBJECT
 public:
     /// Starts the idle timer with `idleMs` milliseconds.
-    explicit TerminalReader(int idleMs);
+    TerminalReader(int idleMs, Screen &screen);
 
 signals:
     /// No key came for the idle time.
@@ -36,13 +40,17 @@ public slots:
 
 private:
     void waitInLoop();
-    bool waitForInput(int timeoutMs);
+    bool waitForInput(int limitMs);
+    bool hasInput();
+    void countInput();
     std::optional<int> readKey();
     std::optional<int> readByte();
 
     QSocketNotifier *const stdinNotifier;
     QTimer idleTimer; ///< the only timer that ends the wait of the event loop
     const int idleMs;
+    Screen &screen;
     sigset_t waitMask; ///< the mask of the session without SIGWINCH
     int arrivedBytes = 0; ///< known to be readable; 0 or less when none is known
+    QElapsedTimer sinceCount; ///< since they were counted
 };

@@ -42,16 +42,17 @@ void MenuTree::openAll()
 }
 
 MenuSession::MenuSession(const QByteArray &script, const ToolRunner &tool)
-    : gui(
-        pathsOf(device, script), [this](const QByteArray &bytes) { written += bytes.size(); }, tool)
+    : gui(pathsOf(device, script), line, tool)
 {
     gui.initTerminal();
 }
 
 void MenuSession::press(Qt::Key key, int times)
 {
-    for (int i = 0; i < times; ++i)
+    for (int i = 0; i < times; ++i) {
         gui.processKeyEvent(key);
+        gui.shownScreen().beforeWait(false);
+    }
 }
 
 void MenuSession::openAll()
@@ -63,5 +64,5 @@ void MenuSession::openAll()
 
 qint64 MenuSession::takeWritten()
 {
-    return std::exchange(written, 0);
+    return std::exchange(line.written, 0);
 }

@@ -1,57 +1,93 @@
 #include "render/Screen.h"
 
-Screen::Screen(Sink sink)
-    : sink(std::move(sink))
+namespace {
+
+constexpr int longestBurstMs = 100; // without a frame, while keys keep coming
+constexpr int shortestWaitMs = 10; // for a busy line
+
+void moveCursorTo(QByteArray &bytes, int row, int column)
+{
+    bytes += "\x1b[" + QByteArray::number(row) + ';' + QByteArray::number(column) + 'H';
+}
+
+} // namespace
+
+Screen::Screen(Line &line)
+    : line(line)
 {
 }
 
 void Screen::clear()
 {
-    pending += "\x1b[2J\n";
-    flush();
-    shownFrame.clear();
+    isToBeCleared = true;
+    nextFrame.clear();
+    rows = 0;
+    isStale = true;
 }
 
 void Screen::setCursorVisible(bool visible)
 {
     cursorVisible = visible;
-    pending += visible ? "\x1b[?25h\n" : "\x1b[?25l\n";
-    // On a terminal of a single row every line break scrolls.
-    if (shownRows == 1)
-        shownFrame.clear();
-    flush();
+    isCursorToBeSet = true;
+    isStale = true;
 }
 
-void Screen::moveCursorTo(int row, int column)
+void Screen::show(const Frame &frame, int frameRows, const CursorPosition &position)
 {
-    pending += "\x1b[" + QByteArray::number(row) + ';' + QByteArray::number(column) + 'H';
+    nextFrame = frame;
+    rows = frameRows;
+    cursor = position;
+    isStale = true;
 }
 
-void Screen::show(const Frame &frame, int rows, const CursorPosition &cursor)
+int Screen::beforeWait(bool hasInput)
 {
-    shownRows = rows;
-    for (int row = 1; row <= rows; ++row) {
-        const QString line = frame.value(row - 1);
-        if (line == shownFrame.value(row - 1))
-            continue;
-        moveCursorTo(row, 0);
-        pending += line.toLatin1();
-        shownFrame.insert(row - 1, line);
-    }
-    if (cursorVisible)
-        moveCursorTo(cursor.row, cursor.column);
-    flush();
+    if (!isStale || (hasInput && line.milliseconds() - burstStart < longestBurstMs))
+        return -1;
+    const qint64 queued = line.queuedBytes();
+    if (queued > 0)
+        return qMax(shortestWaitMs, int(queued * 1000 / line.bytesPerSecond()));
+    writeChanges();
+    burstStart = line.milliseconds();
+    return -1;
+}
+
+void Screen::afterWait()
+{
+    burstStart = line.milliseconds();
 }
 
 void Screen::leave()
 {
-    pending += leaveSequence;
-    flush();
+    isStale = false;
+    line.write(leaveSequence);
 }
 
-void Screen::flush()
+void Screen::writeChanges()
 {
-    if (!pending.isEmpty())
-        sink(pending);
-    pending.truncate(0);
+    if (isToBeCleared) {
+        bytes += "\x1b[2J\n";
+        shownFrame.clear();
+    }
+    if (isCursorToBeSet) {
+        // From the first row, the line break does not scroll, unless there is only one row.
+        moveCursorTo(bytes, 0, 0);
+        bytes += cursorVisible ? "\x1b[?25h\n" : "\x1b[?25l\n";
+        if (rows == 1)
+            shownFrame.clear();
+    }
+    for (int row = 1; row <= rows; ++row) {
+        const QString text = nextFrame.value(row - 1);
+        if (text == shownFrame.value(row - 1))
+            continue;
+        moveCursorTo(bytes, row, 0); // terminals take 0 as 1
+        bytes += text.toLatin1();
+        shownFrame.insert(row - 1, text);
+    }
+    if (cursorVisible)
+        moveCursorTo(bytes, cursor.row, cursor.column);
+    isToBeCleared = isCursorToBeSet = isStale = false;
+    if (!bytes.isEmpty())
+        line.write(bytes);
+    bytes.truncate(0);
 }

@@ -1,53 +1,59 @@
-// What the terminal shows, and the writing of what changed.
+// What the terminal shows, and when and how that changes.
 #pragma once
 
 #include "render/Frame.h"
-
-#include <QByteArray>
-
-#include <functional>
-#include <optional>
+#include "render/Line.h"
 
 /// A place on the terminal, counted from 1.
 struct CursorPosition {
-    int row;
-    int column;
+    int row = 1;
+    int column = 1;
 };
 
 /// Leaves the terminal as programs expect it: no colours, text cursor visible, cleared.
 constexpr char leaveSequence[] = "\x1b[0m\n\x1b[?25h\n\x1b[2J\n";
 
-/// Remembers the frame that the terminal shows and writes only the rows that differ from it. All
-/// bytes leave through the sink, one call a flush; nothing is flushed when there is nothing to say.
+/// Keeps what the terminal has to show until the line is free and the console is about to wait for
+/// input; until then a newer frame replaces an older one. Writes only the rows that differ from
+/// what the terminal shows by then, in one call of the line, and nothing when there is nothing new.
 class Screen {
 public:
-    using Sink = std::function<void(const QByteArray &)>;
-
-    explicit Screen(Sink sink);
+    explicit Screen(Line &line);
 
     /// Clears the terminal and forgets what it shows, so that the next frame is written whole.
     void clear();
 
-    /// Shows or hides the text cursor. The cursor moves to the next row.
+    /// Shows or hides the text cursor.
     void setCursorVisible(bool visible);
     bool isCursorVisible() const { return cursorVisible; }
-
-    /// Moves the text cursor with the next flush. Terminals take 0 as 1.
-    void moveCursorTo(int row, int column);
 
     /// Shows the first `rows` lines of `frame`. Text beyond Latin-1 appears as question marks. A
     /// visible text cursor ends up at `cursor`.
     void show(const Frame &frame, int rows, const CursorPosition &cursor);
 
-    /// Writes the leave sequence.
+    /// To be called before each wait for input; `hasInput` when there is some already. Writes what
+    /// is to be shown if the line is free; while there is input, only after 100 ms without a frame.
+    /// Returns the milliseconds after which it is to be called again, or -1 when nothing is left.
+    int beforeWait(bool hasInput);
+
+    /// To be called when a wait for input is over.
+    void afterWait();
+
+    /// Writes the leave sequence; what is to be shown is dropped.
     void leave();
 
 private:
-    void flush();
+    void writeChanges();
 
-    const Sink sink;
-    Frame shownFrame;
-    int shownRows = 0;
-    QByteArray pending;
+    Line &line;
+    Frame shownFrame; ///< what the terminal shows
+    Frame nextFrame; ///< what it has to show
+    int rows = 0; ///< of `nextFrame`
+    CursorPosition cursor;
     bool cursorVisible = false;
+    bool isToBeCleared = false;
+    bool isCursorToBeSet = false;
+    bool isStale = false; ///< there may be something to write
+    qint64 burstStart = 0; ///< when a frame left or the last wait was over, by the line's clock
+    QByteArray bytes; ///< keeps its memory from one frame to the next
 };

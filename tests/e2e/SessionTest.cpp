@@ -7,6 +7,8 @@
 
 #include <Version.h>
 
+#include <csignal>
+
 class SessionTest : public QObject {
     Q_OBJECT
 
@@ -172,6 +174,34 @@ private slots:
         else
             QVERIFY(session.waitFor(
                 [&] { return (calls += session.device.takeCalls()).contains(call); }));
+    }
+
+    // Each key acts, but few of their frames are written.
+    void burst()
+    {
+        Session session;
+        QVERIFY(session.start() && session.waitForRest());
+        session.mark();
+        QVERIFY(session.press({ Key::down }) && session.waitForRest());
+        const int frame = session.bytesSinceMark().size();
+        session.mark();
+        session.device.takeCalls();
+        // Up to the first line, which is opened, closed and opened again on the way.
+        QVERIFY(session.send(
+            Key::up + Key::enter + Key::enter + (Key::down + Key::up).repeated(18) + Key::enter));
+        QVERIFY(session.waitForRest());
+        QCOMPARE(session.device.takeCalls(),
+            QStringList(
+                { QStringLiteral("get|truck"), QStringLiteral("get_menu_electronic_seal_status"),
+                    QStringLiteral("get_menu_electronic_seal_status"), QStringLiteral("get|truck"),
+                    QStringLiteral("get_menu_electronic_seal_status") }));
+        QVERIFY(session.terminal().row(2).endsWith(QStringLiteral(" Emma")));
+        QVERIFY2(
+            frame > 0 && session.bytesSinceMark().size() < 10 * frame, session.bytesSinceMark());
+        const QStringList shown = session.terminal().screen();
+        session.signal(SIGWINCH);
+        QVERIFY(session.waitForRest());
+        QCOMPARE(session.terminal().screen(), shown);
     }
 
     void keyInPieces()
