@@ -14,13 +14,6 @@ std::optional<QVariantList> answerOf(const ToolCall &call)
     return value.type() == QVariant::List ? std::make_optional(value.toList()) : std::nullopt;
 }
 
-bool isNumber(const QVariant &value)
-{
-    bool isNumber = false;
-    value.toDouble(&isNumber);
-    return isNumber && value.type() != QVariant::Bool;
-}
-
 QString shownValue(const QVariant &value)
 {
     return value.type() == QVariant::Double

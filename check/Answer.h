@@ -10,8 +10,5 @@ std::optional<QVariant> jsonOf(const ToolCall &call, JsonFault *fault = nullptr)
 /// The elements of the JSON array that the tool printed; nothing when it printed anything else.
 std::optional<QVariantList> answerOf(const ToolCall &call);
 
-/// True for what the console reads as a number, texts included.
-bool isNumber(const QVariant &value);
-
 /// `value` as JSON, decimals with up to 15 digits.
 QString shownValue(const QVariant &value);

@@ -49,13 +49,6 @@ Findings bindingFindings(const TreeViewItemHandler &handler, const TreeViewItem 
             "what is edited in it is not stored; add an \"ajax-write\", or give its items "
             "\"remote\" 2");
     }
-    for (const auto &words : { handler.readBinding(item), handler.writeBinding(item) }) {
-        if (words && (words->contains(QLatin1Char('"')) || words->contains(QLatin1Char('\'')))) {
-            findings << error("quotes",
-                "the words are split at blanks, and the quotes in <%1> reach the tool; remove them",
-                *words);
-        }
-    }
     return findings;
 }
 

@@ -1,6 +1,7 @@
 #include "check/CountFindings.h"
 
 #include "check/Answer.h"
+#include "check/Numbers.h"
 #include "menu/CountEntry.h"
 #include "menu/RepeatedScreen.h"
 

@@ -1,10 +1,12 @@
 #include "check/EditFindings.h"
 
 #include "check/Answer.h"
+#include "check/Numbers.h"
 #include "json/Values.h"
 #include "render/InputValidation.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -56,6 +58,29 @@ bool acceptsSomething(const TreeViewItemHandler &handler, const TreeViewItem &it
         [&](const QString &text) { return validateInput(handler, item, text); });
 }
 
+// The console takes what is missing for 0, and reads only arrays.
+Findings rangeFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    const QScriptValue range = item.definition.property(handler.names().range);
+    const QScriptValue lowest = range.property(0);
+    const QScriptValue highest = range.property(1);
+    if (!range.isValid() || inputRule(handler, item).kind != InputRule::Number)
+        return {};
+    if (!isNumber(lowest) || !isNumber(highest)) {
+        return { error("range",
+            "its \"range\" is \"%1\" instead of the lowest and the highest number, and counts as "
+            "%2 to %3; write them as [0, 500]",
+            range.toString(), rangeValue(handler, item, 0), rangeValue(handler, item, 1)) };
+    }
+    if (std::trunc(lowest.toNumber()) == lowest.toNumber()
+        && std::trunc(highest.toNumber()) == highest.toNumber())
+        return {};
+    return { warning("range",
+        "the fractions in its \"range\" %1 are cut off; write whole numbers, in a smaller unit if "
+        "needed",
+        range.toString()) };
+}
+
 } // namespace
 
 Findings editFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
@@ -64,10 +89,13 @@ Findings editFindings(const TreeViewItemHandler &handler, const TreeViewItem &it
         return { error(
             "no-validation", "without \"validation\" every text is refused; give it a rule") };
     }
-    if (acceptsSomething(handler, item))
-        return roomFindings(handler, item);
     const QString rule = validation(handler, item);
     const InputRule parts = inputRule(handler, item);
+    const Findings ofRange = parts.length ? rangeFindings(handler, item) : Findings();
+    if (!ofRange.isEmpty())
+        return ofRange;
+    if (acceptsSomething(handler, item))
+        return roomFindings(handler, item);
     if (parts.kind == InputRule::Number && parts.length && !hasRange(handler, item)) {
         return { error("no-range",
             "without \"range\" the rule \"%1\" refuses every text; give it the lowest and the "

@@ -1,4 +1,4 @@
-// no-validation, no-range, dead-rule, narrow-rule, edit-value: edit fields and their rules.
+// no-validation, no-range, range, dead-rule, narrow-rule, edit-value: edit fields and their rules.
 #pragma once
 
 #include "check/Finding.h"

@@ -1,21 +1,33 @@
 #include "check/InterfaceFindings.h"
 
 #include "check/Answer.h"
+#include "check/EditDistance.h"
+#include "check/Numbers.h"
 #include "diagnose/PagedScreen.h"
 #include "diagnose/TagScreen.h"
 #include "json/Values.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
-bool hasInterfaceCss(const TreeViewItemHandler &handler, const TreeViewItem &item)
+struct NearestInterface {
+    QString css;
+    int distance; ///< 0 for the css itself, 1 if only capitals differ, 2 for another letter, …
+};
+
+NearestInterface nearestInterface(const QString &css)
 {
-    const QString css = item.definition.property(handler.names().css).toString();
-    bool isFound = false;
-    for (int kind = SpdInterface; wordsOf(InterfaceKind(kind)).css && !isFound; ++kind)
-        isFound = css == QLatin1String(wordsOf(InterfaceKind(kind)).css);
-    return isFound;
+    NearestInterface nearest { {}, std::numeric_limits<int>::max() };
+    for (int kind = SpdInterface; wordsOf(InterfaceKind(kind)).css; ++kind) {
+        const QLatin1String known(wordsOf(InterfaceKind(kind)).css);
+        const int distance =
+            css == known ? 0 : 1 + editDistance(css.toLower(), QString(known).toLower());
+        if (distance < nearest.distance)
+            nearest = { known, distance };
+    }
+    return nearest;
 }
 
 bool isText(const QVariant &value)
@@ -26,6 +38,11 @@ bool isText(const QVariant &value)
 bool isArray(const QVariant &value)
 {
     return value.type() == QVariant::List;
+}
+
+bool isChannelValue(const QVariant &value)
+{
+    return isNumber(value);
 }
 
 // Empty when the screen can show all of it.
@@ -39,7 +56,7 @@ QString channelFault(const PageLayout &layout, const QVariantList &interface)
                 capacity += other.channelCount;
         }
         if (!isArray(interface.value(row.element)) || channels.size() > capacity
-            || !std::all_of(channels.cbegin(), channels.cend(), isNumber)) {
+            || !std::all_of(channels.cbegin(), channels.cend(), isChannelValue)) {
             return QStringLiteral("element %1 is no array of up to %2 numbers")
                 .arg(row.element + 1)
                 .arg(capacity);
@@ -118,11 +135,22 @@ QString shapeFault(InterfaceKind kind, int tagNumber, const QVariantList &answer
 
 Findings interfaceFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
-    if (!hasInterfaceCss(handler, item) || handler.typeKind(item) == StatusType)
+    constexpr int misspelled = 3;
+    const NearestInterface nearest =
+        nearestInterface(item.definition.property(handler.names().css).toString());
+    const bool isStatus = handler.typeKind(item) == StatusType;
+    if (nearest.distance == 0 && !isStatus) {
+        return { error("interface-type",
+            "its css is that of an interface screen, which opens only with \"type\" \"status\"; "
+            "add "
+            "that") };
+    }
+    if (nearest.distance == 0 || nearest.distance > misspelled || !isStatus
+        || !item.children.empty())
         return {};
-    return { error("interface-type",
-        "its css is that of an interface screen, which opens only with \"type\" \"status\"; add "
-        "that") };
+    return { error("interface-css",
+        "it opens no interface screen, as its css is not exactly \"%1\"; correct it",
+        nearest.css) };
 }
 
 Findings interfaceAnswerFindings(InterfaceKind kind, int tagNumber, const QVariantList &answer)

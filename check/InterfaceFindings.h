@@ -1,4 +1,4 @@
-// interface-type, interface-answer: the screens of the field interfaces.
+// interface-type, interface-css, interface-answer: the screens of the field interfaces.
 #pragma once
 
 #include "check/Finding.h"

@@ -1,7 +1,11 @@
 #include "check/ListFindings.h"
 
 #include "check/Answer.h"
+#include "check/Numbers.h"
 #include "json/Values.h"
+#include "locale/CTranslationHandler.h"
+#include "render/MenuView.h"
+#include "render/ViewState.h"
 
 #include <cmath>
 
@@ -22,6 +26,12 @@ Findings databaseValueFindings(const TreeViewItemHandler &handler, const TreeVie
     Findings findings;
     for (int i = 0; i < count; ++i) {
         const QVariant value = handler.databaseValueAt(item, i);
+        if (textOf(value).isEmpty()) {
+            findings << warning("empty-value",
+                "entry %1 of its \"dbValues\" is empty, and an empty value shows nothing; give the "
+                "text a value that is none",
+                i + 1);
+        }
         if (handler.indexOfDatabaseValue(item, value) != i) {
             findings << error("equal-values",
                 "\"dbValues\" has \"%1\" more than once, so only the first of its texts is ever "
@@ -29,10 +39,53 @@ Findings databaseValueFindings(const TreeViewItemHandler &handler, const TreeVie
                 textOf(value));
         }
     }
-    if (handler.isInteger(item)) {
-        findings << warning("integer-list",
-            "with \"integer\" it shows the value instead of the text for it; remove \"integer\" or "
-            "\"dbValues\"");
+    return findings;
+}
+
+// What the menu shows with "integer" for the choice at `i`, from 0.
+QString integerText(const TreeViewItemHandler &handler, const TreeViewItem &item, int i)
+{
+    return handler.hasDatabaseValues(item) ? textOf(handler.databaseValueAt(item, i))
+                                           : QString::number(i);
+}
+
+QString optionText(const TreeViewItemHandler &handler, const TreeViewItem &item, int i)
+{
+    return translate(textOf(handler.valueAt(item, i)));
+}
+
+Findings integerFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    if (!handler.isInteger(item))
+        return {};
+    for (int i = 0, count = handler.valueCount(item); i < count; ++i) {
+        const QString shown = integerText(handler, item, i);
+        const QString option = optionText(handler, item, i);
+        if (shown != option) {
+            return { warning("integer-list",
+                "with \"integer\" the menu shows the value \"%1\" instead of its text \"%2\"; "
+                "remove "
+                "\"integer\"",
+                shown, option) };
+        }
+    }
+    return {};
+}
+
+// In the menu a text has the columns from the value's column on, in the dialog those of the box.
+Findings widthFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    const int columns = handler.isInteger(item) ? standardColumns / 2 - 2
+                                                : standardColumns - valueColumn(standardColumns);
+    Findings findings;
+    for (int i = 0, count = handler.valueCount(item); i < count; ++i) {
+        const QString text = optionText(handler, item, i);
+        if (text.size() > columns) {
+            findings << warning("wide-option",
+                "the option text \"%1\" is wider than the %2 columns for it on a terminal of %3; "
+                "shorten it",
+                text, columns, standardColumns);
+        }
     }
     return findings;
 }
@@ -46,7 +99,9 @@ Findings listFindings(const TreeViewItemHandler &handler, const TreeViewItem &it
         && (handler.inputKind(item) == DropdownInput || !handler.isInteger(item))) {
         return { error("no-values", "a list without \"values\" shows nothing; list its texts") };
     }
-    return handler.hasDatabaseValues(item) ? databaseValueFindings(handler, item) : Findings();
+    const Findings findings = integerFindings(handler, item) + widthFindings(handler, item);
+    return handler.hasDatabaseValues(item) ? databaseValueFindings(handler, item) + findings
+                                           : findings;
 }
 
 Findings listValueFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)

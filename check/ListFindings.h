@@ -1,4 +1,5 @@
-// no-values, value-count, equal-values, integer-list, list-value: lists and their choices.
+// no-values, value-count, equal-values, empty-value, integer-list, wide-option, list-value: lists
+// and their choices.
 #pragma once
 
 #include "check/Finding.h"

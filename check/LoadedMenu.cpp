@@ -1,6 +1,8 @@
 #include "check/LoadedMenu.h"
 
+#include "check/FileFindings.h"
 #include "check/QuietMessages.h"
+#include "locale/CTranslationHandler.h"
 #include "menu/TreeBuilder.h"
 #include "render/MenuView.h"
 #include "render/ViewState.h"
@@ -12,6 +14,12 @@ QScriptValue loadQuietly(TreeViewItemHandler &handler)
 {
     const QuietMessages quiet;
     return handler.scriptHelper().load();
+}
+
+bool canLoad(const QString &table)
+{
+    QVariantMap texts;
+    return CTranslationHandler::loadJsonMap(table, texts);
 }
 
 QScriptValue globalSettings(TreeViewItemHandler &handler)
@@ -28,6 +36,7 @@ LoadedMenu::LoadedMenu(const DevicePaths &paths, const ToolRunner &runTool)
     , settings(loadQuietly(handler))
     , global(globalSettings(handler))
     , screens(settings, handler.names())
+    , hasTable(canLoad(translationTable(paths.webRoot)))
     , root(buildTree(settings.property(0), screens, { 1, 1 }, handler.names()))
 {
     handler.setAccessLevel(TreeViewItemHandler::openAccessLevel);
@@ -47,6 +56,7 @@ void expandAll(TreeViewItem &item)
 
 QStringList menuOutline(LoadedMenu &menu)
 {
+    const QuietMessages quiet;
     expandAll(*menu.root);
     const Frame lines = menuLines(menu.handler, *menu.root, standardColumns);
     QStringList shown;

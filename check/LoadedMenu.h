@@ -17,6 +17,7 @@ struct LoadedMenu {
     const QScriptValue settings; ///< as the settings script defines it; an error when it fails
     const QScriptValue global; ///< the script's global `Settings`
     const ScreenIndex screens;
+    const bool hasTable; ///< there are English texts
     std::unique_ptr<TreeViewItem> root;
 };
 

@@ -1,10 +1,17 @@
 #include "check/MenuCheck.h"
 
+#include "check/AccessFindings.h"
 #include "check/BindingFindings.h"
+#include "check/CallWords.h"
 #include "check/CountFindings.h"
 #include "check/EditFindings.h"
+#include "check/EntryFindings.h"
+#include "check/FileFindings.h"
+#include "check/FindingNames.h"
 #include "check/InterfaceFindings.h"
 #include "check/ListFindings.h"
+#include "check/ListScreenFindings.h"
+#include "check/QuietMessages.h"
 #include "check/ReferenceFindings.h"
 #include "check/Report.h"
 #include "check/ScriptFindings.h"
@@ -12,6 +19,7 @@
 #include "check/SpellingFindings.h"
 #include "check/TextFindings.h"
 #include "check/TypeFindings.h"
+#include "check/WordFindings.h"
 
 #include <QSet>
 
@@ -39,6 +47,7 @@ public:
         , report(report)
         , handler(menu.handler)
         , names(handler.names())
+        , words(menu)
     {
     }
 
@@ -60,13 +69,19 @@ private:
         if (presence != Presence::HiddenByOmission)
             decided.insert(item.definition.objectId());
 
-        report.add(item, referenceFindings(menu, item.definition));
+        // What is no object is reported of the screen that it is in.
+        if (!item.definition.isObject())
+            return;
+        addDefinition(item);
         report.add(item, selfReferenceFindings(menu, item));
+        report.add(item, fieldEntryFindings(handler, item));
+        report.add(item, listScreenFindings(menu, item));
         report.add(item, typeFindings(handler, item));
         report.add(item, interfaceFindings(handler, item));
-        report.add(item, spellingFindings(handler, item));
         report.add(item, listCountFindings(menu, item));
         if (presence == Presence::Shown) {
+            report.add(item, accessFindings(handler, item));
+            report.add(item, wordFindings(handler, words, item));
             report.add(item, bindingFindings(handler, item));
             report.add(item, fieldFindings(handler, item));
             if (item.parentItem)
@@ -74,6 +89,15 @@ private:
         }
         for (const auto &child : item.children)
             visit(*child, presence);
+    }
+
+    // What concerns also a screen that is nowhere in the tree.
+    void addDefinition(const TreeViewItem &item)
+    {
+        report.add(item, entryFindings(menu, item.definition));
+        report.add(item, referenceFindings(menu, item.definition));
+        report.add(item, spellingFindings(handler, item));
+        report.add(item, nameFindings(item.definition));
     }
 
     Presence presenceOf(const TreeViewItem &item) const
@@ -93,8 +117,7 @@ private:
         report.add(item, countScreenFindings(menu, screen));
         if (!reached.contains(id)) {
             report.add(item, unreachedFindings(menu, screen));
-            report.add(item, referenceFindings(menu, definition));
-            report.add(item, spellingFindings(handler, item));
+            addDefinition(item);
         } else if (!decided.contains(id)) {
             report.add(item, hiddenReadFindings(handler, item));
         }
@@ -104,6 +127,7 @@ private:
     Report &report;
     const TreeViewItemHandler &handler;
     const PropertyNames &names;
+    const CallWords words;
     QSet<qint64> reached; ///< definitions that are in the tree
     QSet<qint64> decided; ///< those of them that are shown, or hidden by a word of the definition
 };
@@ -112,9 +136,15 @@ private:
 
 QStringList menuProblems(LoadedMenu &menu)
 {
+    const QuietMessages quiet;
     Report report(menu);
     report.add(menu.paths.settingsScript, scriptFindings(menu));
-    if (!menu.settings.isError() && menu.settings.property(0).isObject())
+    report.add(menu.paths.settingsScript, nameFindings(menu.global));
+    const QString table = translationTable(menu.paths.webRoot);
+    report.add(table, tableFindings(table));
+    if (menu.settings.property(0).isObject()) {
+        report.add(menu.paths.settingsScript, settingsFindings(menu));
         MenuCheck(menu, report).run();
+    }
     return report.lines();
 }

@@ -1,5 +1,6 @@
 #include "check/ReferenceFindings.h"
 
+#include "check/ListScreenFindings.h"
 #include "menu/RepeatedScreen.h"
 
 #include <QScriptValueIterator>
@@ -68,8 +69,9 @@ Findings unreachedFindings(const LoadedMenu &menu, int screen)
         return { error("duplicate-css",
             "an earlier screen has the same css and is shown instead; rename this") };
     }
+    // What is wrong then is reported of the list screen.
+    if (isMeantForRepetition(menu, css.toString()))
+        return {};
     return { warning("unreached",
-        "nothing leads to screen number %1; name its css in the \"screens\" of another, or remove "
-        "it",
-        screen) };
+        "nothing leads to this screen; name its css in the \"screens\" of another, or remove it") };
 }

@@ -1,15 +1,12 @@
 #include "check/Report.h"
 
+#include "check/Entries.h"
+#include "check/FindingNames.h"
 #include "locale/CTranslationHandler.h"
 #include "menu/RepeatedScreen.h"
 #include "render/ForeignText.h"
 
 namespace {
-
-QStringList ignoredBy(const QScriptValue &definition)
-{
-    return definition.property(QStringLiteral("checkIgnore")).toString().split(QLatin1Char(' '));
-}
 
 QString reportLine(const QString &place, const Finding &finding)
 {
@@ -23,9 +20,9 @@ QString reportLine(const QString &place, const Finding &finding)
 
 void Report::add(const TreeViewItem &item, const Findings &findings, int instance)
 {
-    const QStringList ignored = ignoredBy(item.definition);
+    const QStringList allowed = allowedFindings(item.definition);
     for (const Finding &finding : findings) {
-        if (!ignored.contains(finding.name)
+        if (isReported(finding, allowed)
             && reported.emplace(item.definition.objectId(), instance, finding.text).second)
             reportLines.push_back(reportLine(wayTo(item, instance), finding));
     }
@@ -33,26 +30,57 @@ void Report::add(const TreeViewItem &item, const Findings &findings, int instanc
 
 void Report::add(const QString &place, const Findings &findings)
 {
-    const QStringList ignored = ignoredBy(menu.global);
+    const QStringList allowed = allowedFindings(menu.global);
     for (const Finding &finding : findings) {
-        if (!ignored.contains(finding.name))
+        if (isReported(finding, allowed))
             reportLines.push_back(reportLine(place, finding));
     }
 }
 
+bool Report::isReported(const Finding &finding, const QStringList &allowed) const
+{
+    const bool followsFromTable = !menu.hasTable && finding.name == QLatin1String("untranslated");
+    return !followsFromTable && !allowed.contains(finding.name);
+}
+
 QString Report::wayTo(const TreeViewItem &item, int instance) const
 {
-    const PropertyNames &names = menu.handler.names();
-    QString css;
+    QString screen;
     QStringList labels;
     for (const TreeViewItem *level = &item; level; level = level->parentItem) {
-        QString label = translate(menu.handler.labelKey(*level));
-        if (instance >= 0 && isRepeatedScreen(level->referringEntry, names))
-            label += QLatin1Char(' ') + QString::number(level->position + 1);
         if (level->parentItem || labels.isEmpty())
-            labels.prepend(label);
-        if (css.isEmpty())
-            css = level->definition.property(names.css).toString();
+            labels.prepend(labelOf(*level, instance));
+        const QScriptValue css = level->definition.property(menu.handler.names().css);
+        if (screen.isEmpty())
+            screen = css.toString();
     }
-    return css + QLatin1String(": ") + labels.join(QLatin1String(" > "));
+    return (screen.isEmpty() ? QString() : screen + QLatin1String(": "))
+        + labels.join(QLatin1String(" > "));
+}
+
+QString Report::labelOf(const TreeViewItem &item, int instance) const
+{
+    const PropertyNames &names = menu.handler.names();
+    QString label = translate(menu.handler.labelKey(item));
+    if (instance >= 0 && isRepeatedScreen(item.referringEntry, names))
+        label += QLatin1Char(' ') + QString::number(item.position + 1);
+    return label.trimmed().isEmpty() ? entryText(item) : label;
+}
+
+// For what has neither a label nor a css: its place among the entries, from 1.
+QString Report::entryText(const TreeViewItem &item) const
+{
+    const TreeViewItem *const parent = item.parentItem;
+    const PropertyNames &names = menu.handler.names();
+    const auto entries =
+        entriesOf(parent ? parent->definition.property(names.screens) : menu.settings, names);
+    const QScriptValue &wanted =
+        item.referringEntry.isValid() ? item.referringEntry : item.definition;
+    int place = 0;
+    while (place < entries.size() && !entries.at(place).strictlyEquals(wanted))
+        ++place;
+    const QString list = parent ? parent->definition.property(names.css).toString()
+                                : QStringLiteral("Settings.settings");
+    return QStringLiteral("entry %1").arg(place + 1)
+        + (list.isEmpty() ? QString() : QStringLiteral(" of ") + list);
 }

@@ -30,7 +30,10 @@ public:
     const QStringList &lines() const { return reportLines; }
 
 private:
+    bool isReported(const Finding &finding, const QStringList &allowed) const;
     QString wayTo(const TreeViewItem &item, int instance) const;
+    QString labelOf(const TreeViewItem &item, int instance) const;
+    QString entryText(const TreeViewItem &item) const;
 
     const LoadedMenu &menu;
     std::set<std::tuple<qint64, int, QString>> reported; ///< definition, instance, text

@@ -1,9 +1,41 @@
 #include "check/SliderFindings.h"
 
 #include "check/Answer.h"
+#include "check/Numbers.h"
+
+#include <cmath>
+
+namespace {
+
+Findings numberFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    const PropertyNames &names = handler.names();
+    Findings findings;
+    for (const QScriptString &name : { names.minimum, names.maximum, names.step }) {
+        const QScriptValue number = item.definition.property(name);
+        if (!number.isValid()) {
+            findings << error("slider-number",
+                "without \"%1\" the slider takes 0 for it; add a whole number", name.toString());
+        } else if (!isNumber(number)) {
+            findings << error("slider-number",
+                "its \"%1\" is \"%2\" and counts as 0; write a whole number", name.toString(),
+                number.toString());
+        } else if (std::trunc(number.toNumber()) != number.toNumber()) {
+            findings << warning("slider-number",
+                "its \"%1\" %2 is cut to a whole number; write one, in a smaller unit if needed",
+                name.toString(), number.toString());
+        }
+    }
+    return findings;
+}
+
+} // namespace
 
 Findings sliderFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
+    const Findings findings = numberFindings(handler, item);
+    if (!findings.isEmpty())
+        return findings;
     const int lowest = handler.minimum(item);
     const int highest = handler.maximum(item);
     const int step = handler.step(item);

@@ -7,6 +7,8 @@
 #include "render/MenuView.h"
 #include "render/ViewState.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace {
@@ -25,7 +27,9 @@ bool isTranslated(const QString &key)
 bool canBeShown(uint character)
 {
     const QString text = QString::fromUcs4(&character, 1);
-    return character <= 0xff && printable(text) == text;
+    // What is not UTF-8 is reported of its file or answer.
+    return (character <= 0xff && printable(text) == text)
+        || character == QChar::ReplacementCharacter;
 }
 
 Findings characterFindings(const QString &what, const QString &text)
@@ -52,6 +56,25 @@ Findings keyFindings(const QString &what, const QString &key)
     return findings + characterFindings(what, translate(key));
 }
 
+// Options may be plain texts, which are shown as they are.
+bool couldBeKey(const QString &text)
+{
+    static const QRegularExpression key(QStringLiteral("^[a-z][a-z0-9_]*$"));
+    return key.match(text).hasMatch();
+}
+
+Findings optionFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    const QString what = QStringLiteral("option text");
+    Findings findings;
+    for (int i = 0, count = handler.valueCount(item); i < count; ++i) {
+        const QString text = textOf(handler.valueAt(item, i));
+        findings +=
+            couldBeKey(text) ? keyFindings(what, text) : characterFindings(what, translate(text));
+    }
+    return findings;
+}
+
 } // namespace
 
 Findings textFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
@@ -70,11 +93,8 @@ Findings textFindings(const TreeViewItemHandler &handler, const TreeViewItem &it
             "its label reaches %1 columns into the value on a terminal of %2 columns; shorten it",
             surplus, standardColumns);
     }
-    if (kind == DropdownInput || kind == SelectLabelInput) {
-        for (int i = 0, count = handler.valueCount(item); i < count; ++i)
-            findings +=
-                keyFindings(QStringLiteral("option text"), textOf(handler.valueAt(item, i)));
-    }
+    if (kind == DropdownInput || kind == SelectLabelInput)
+        findings += optionFindings(handler, item);
     return findings;
 }
 

@@ -1,7 +1,7 @@
 // The checker of menu definitions, for those who write them.
 #include "check/CommandLine.h"
 #include "check/DeviceCheck.h"
-#include "check/FileFault.h"
+#include "check/FileFindings.h"
 #include "check/Interruption.h"
 #include "check/MenuCheck.h"
 #include "check/OwnProcess.h"
@@ -67,7 +67,7 @@ CheckStatus reportDevice(LoadedMenu &menu, const ToolCalls &calls)
 
 int check(const DevicePaths &paths, bool wantsDevice, bool wantsTree)
 {
-    const QString fault = fileFault(paths);
+    const QString fault = unreadableScript(paths);
     if (!fault.isEmpty())
         return failure(CannotLoad, QStringLiteral("cannot load ") + fault);
     CTranslationHandler::setInstanceRoot(paths.webRoot);

@@ -2,7 +2,7 @@
 
 #include "app/Session.h"
 #include "check/CommandLine.h"
-#include "check/FileFault.h"
+#include "check/FileFindings.h"
 #include "check/MenuCheck.h"
 #include "check/OwnProcess.h"
 #include "check/QuietMessages.h"
@@ -143,7 +143,7 @@ int reportProblems(const DevicePaths &paths)
 {
     int argc = 0;
     const QCoreApplication application(argc, nullptr);
-    const QString fault = fileFault(paths);
+    const QString fault = unreadableScript(paths);
     if (!fault.isEmpty())
         return failure(0, QStringLiteral("cannot load ") + fault);
     const QuietMessages quiet;

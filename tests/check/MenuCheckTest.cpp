@@ -1,6 +1,6 @@
 #include "check/MenuCheck.h"
 #include "check/DeviceCheck.h"
-#include "check/FileFault.h"
+#include "check/FileFindings.h"
 #include "locale/CTranslationHandler.h"
 #include "preview/SimulatedDevice.h"
 #include "terminal/PtySession.h"
@@ -11,11 +11,13 @@
 
 #include <csignal>
 
-static const char translations[] = R"({"a": "A", "b": "B", "r": "R", "k": "K", "smile": "a☺",
-    "compartment": "C", "btnParameterTruckSetup": "T", "truck_setup_compartments": "N"})";
+static const char translations[] = R"({"start": "Start", "page": "Page", "other": "Other",
+    "third": "Third", "field": "Field", "off": "Off", "on": "On", "tanks": "Tanks",
+    "compartment": "Compartment", "smile": "a☺", "btnParameterTruckSetup": "Setup",
+    "truck_setup_compartments": "Compartments"})";
 
-static const char oneField[] = "[{css: 'r', screens: [{css: 'a'}]},"
-                               "{css: 'a', 'ajax-read': 'r', screens: [{i18n: 'a'}]}]";
+static const char oneField[] = "[{css: 'start', screens: [{css: 'page'}]},"
+                               "{css: 'page', 'ajax-read': 'read', screens: [{i18n: 'field'}]}]";
 
 class MenuCheckTest : public QObject {
     Q_OBJECT
@@ -123,7 +125,7 @@ private slots:
         row("crash", "kill -9 $$", 9000, "warning no-tool-version, error no-array, error no-array");
         row("hang", "sleep 60", 100, "error hanging-call, error hanging-call, error hanging-call");
         row("not executable", "chmod -x $0", 9000, "error no-tool, error no-tool, error no-tool");
-        row("slow", "[ $1 = r ] && sleep 1.1; echo '[1]'", 9000,
+        row("slow", "[ $1 = read ] && sleep 1.1; echo '[1]'", 9000,
             "error seal-status, warning slow-call");
     }
     void survivesTools()
@@ -137,29 +139,57 @@ private slots:
 
     void findsFaultsOfFiles_data()
     {
-        const Rows<QByteArray, QByteArray, QString> row("script", "table", "report");
+        const Rows<QByteArray, QByteArray, QString, QString> row(
+            "script", "table", "problems", "says");
         const QByteArray good = "Settings = {settings: [{css: 'r'}], setupStructureVersion: 1}";
-        row("good", good, "{}", "");
-        row("no version", "Settings = {settings: [{css: 'r'}]}", "{}", "setupStructureVersion");
-        row("version allowed", "Settings = {settings: [{}], checkIgnore: 'no-version'}", "{}", "");
-        row("bracket", "Settings = {\nsettings: [", "{}", "line 2, column 11: Syntax error");
-        row("unknown name", good + ";\nnobody.calls()", "{}", "line 2: ReferenceError");
-        row("no screens", "Settings = {}", "{}", "defines no screens");
-        row("comma", good, "{\"a\": 1,\n\"\xc3\xa4\": 2,}", "line 2, column 8: Missing a name");
-        row("too deep", good, QByteArray(600, '['), "column 513: A number is too large, or");
-        row("byte order mark", good, "\xef\xbb\xbf{}", "byte order mark");
-        row("array", good, "[]", "is no JSON object");
+        const QByteArray text = "// \xc3\xa4\n" + good;
+        row("good", text, "{}", "", "");
+        row("no version", "Settings = {settings: [{css: 'r'}]}", "{}", "warning no-version",
+            "setupStructureVersion");
+        row("version allowed", "Settings = {settings: [{}], checkIgnore: 'no-version'}", "{}", "",
+            "");
+        row("unknown name of a finding", good + ";Settings.checkIgnore = 'version'", "{}",
+            "warning unknown-finding", "settings.js: \"checkIgnore\" names \"version\"");
+        row("bracket", "Settings = {\nsettings: [", "{}", "error script",
+            "line 2, column 11: Syntax error; correct it, the console shows no menu");
+        row("unknown name", good + ";\nnobody.calls()", "{}", "error script",
+            "line 2: ReferenceError: Can't find variable: nobody; correct it, the console shows "
+            "no");
+        row("error in the last line", good + ";\nthrow new Error('x')", "{}", "error script",
+            "line 2: Error: x; correct it, the console shows no menu");
+        row("text thrown in the last line", good + ";\nthrow 'x'", "{}", "error script",
+            "line 2: x is thrown; correct it, the console ignores what follows");
+        row("error as the last value", good + ";\nnew Error('x')", "{}", "error script",
+            "settings.js: the script ends with the value Error: x; correct it");
+        row("no screens", "Settings = {}", "{}", "error script", "defines no screens");
+        row("Latin-1 in the script", "\n\"\xe4\";" + good, "{}", "warning not-utf8",
+            "settings.js: the script is not UTF-8 (line 2, byte 3)");
+        row("byte order mark in the script", "\xef\xbb\xbf" + good, "{}", "", "");
+        row("Latin-1 in the table", good, "{\"a\": \"\xe4\", \"b\": \"\xf6\"}", "warning not-utf8",
+            "translation.json: the table is not UTF-8 (line 1, byte 8)");
+        row("comma", good, "{\"a\": 1,\n\"\xc3\xa4\": 2,}", "error translation-table",
+            "translation.json: line 2, column 8: Missing a name");
+        row("too deep", good, QByteArray(600, '['), "error translation-table",
+            "column 513: A number is too large, or");
+        row("byte order mark", good, "\xef\xbb\xbf{}", "error translation-table",
+            "byte order mark");
+        row("array", good, "[]", "error translation-table", "is no JSON object");
+        row("no table, no word of each text",
+            "Settings = {settings: [{css: 'r', screens: ["
+            "{i18n: 'none', inputType: 'button'}]}], setupStructureVersion: 1}",
+            "", "error translation-table", "line 1, column 1");
     }
     void findsFaultsOfFiles()
     {
         QFETCH(QByteArray, script);
         QFETCH(QByteArray, table);
-        QFETCH(QString, report);
+        QFETCH(QString, says);
         device.setScript(script);
-        QString lines = problems().join(QLatin1Char('\n'));
         device.setTranslations(table);
-        lines += fileFault(device.paths());
-        QVERIFY2(report.isEmpty() ? lines.isEmpty() : lines.contains(report), qPrintable(lines));
+        const QStringList lines = problems();
+        QTEST(namesOf(lines), "problems");
+        QVERIFY2(lines.join(QLatin1Char('\n')).contains(says),
+            qPrintable(lines.join(QLatin1Char('\n'))));
     }
 
     void understandsItsCommandLine_data()
@@ -235,18 +265,19 @@ private slots:
     {
         device.setScreens(oneField);
         // A version is no JSON.
-        device.setTool("[ $1 = --version ] && echo 1.0 || echo '[\"i18n_k\"]'");
+        device.setTool("[ $1 = --version ] && echo 1.0 || echo '[\"i18n_on\"]'");
         const QStringList record { root(), tree, ask, tool() };
         const Run complete = run(record);
         QCOMPARE(complete.status, 0);
-        QCOMPARE(complete.output, QStringLiteral("->  A\n +   -  A%1K\n").arg(QString(), 45));
+        QCOMPARE(
+            complete.output, QStringLiteral("->  Page\n +   -  Field%1On\n").arg(QString(), 41));
         QCOMPARE(complete.messages, QString());
 
-        device.setTool("[ $1 = r ] || echo '[1]'");
+        device.setTool("[ $1 = read ] || echo '[1]'");
         const Run incomplete = run(record);
         QCOMPARE(incomplete.status, 1);
-        QCOMPARE(incomplete.output, QStringLiteral("->  A\n +   -  A\n"));
-        QVERIFY(incomplete.messages.startsWith(QLatin1String("<r> printed nothing")));
+        QCOMPARE(incomplete.output, QStringLiteral("->  Page\n +   -  Field\n"));
+        QVERIFY(incomplete.messages.startsWith(QLatin1String("<read> printed nothing")));
     }
 
     void findsNothingOnDemo()

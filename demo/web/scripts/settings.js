@@ -48,6 +48,10 @@ Field.prototype.access = function (level) {
     return this;
 };
 
+Field.prototype.factoryOnly = function () {
+    return this.access(9).checkIgnoring("access-level");
+};
+
 Field.prototype.onRemote = function (remote) {
     this.remote = remote;
     return this;
@@ -88,7 +92,8 @@ function dropdown(i18n, values, dbValues) {
 
 /* The position in the list is the number itself, so the page shows the number. */
 function counter(i18n, values) {
-    return new Field("dropdown", i18n, { values: values, integer: true });
+    return new Field("dropdown", i18n,
+        { values: values, integer: true, checkIgnore: "integer-list" });
 }
 
 function edit(i18n, validation, options) {
@@ -612,9 +617,9 @@ Settings.add(
     ], readsAndWrites("service_load_plan")),
 
     page("btnServiceFactory", [
-        text("factory_serial", 16).access(9),
-        dropdown("factory_variant", ["variant_a", "variant_b", "variant_c"]).access(9),
-        onOff("factory_approved").access(9),
-        number("factory_supply_trim", 3, -99, 99).access(9)
+        text("factory_serial", 16).factoryOnly(),
+        dropdown("factory_variant", ["variant_a", "variant_b", "variant_c"]).factoryOnly(),
+        onOff("factory_approved").factoryOnly(),
+        number("factory_supply_trim", 3, -99, 99).factoryOnly()
     ], readsAndWrites("service_factory"))
 );

@@ -1,0 +1,45 @@
+#include "check/ListScreenFindings.h"
+
+#include "check/Entries.h"
+#include "menu/RepeatedScreen.h"
+
+Findings listScreenFindings(const LoadedMenu &menu, const TreeViewItem &item)
+{
+    const PropertyNames &names = menu.handler.names();
+    if (!item.referringEntry.isValid() || !isCompartmentOrMeterButton(item.definition, names))
+        return {};
+    const QScriptValue entries = item.definition.property(names.screens);
+    const QString repeated = repeatedScreenName(item.definition.property(names.css).toString());
+    if (isRepeatedScreen(item.definition, names)) {
+        if (entriesOf(entries, names).isEmpty())
+            return {};
+        return { warning("list-screen",
+            "the entries of its \"screens\" are ignored, as a list of compartments or meters "
+            "repeats the screen \"%1\"; move them there",
+            repeated) };
+    }
+    if (!entries.isValid()) {
+        return { error("list-screen",
+            "a list of compartments or meters without \"screens\" stays empty; add \"screens\": "
+            "[]") };
+    }
+    if (menu.screens.find(repeated) < 0)
+        return {};
+    return { error("list-screen",
+        "it shows its own entries, and never the screen \"%1\" for each compartment or meter; "
+        "empty "
+        "its \"screens\"",
+        repeated) };
+}
+
+bool isMeantForRepetition(const LoadedMenu &menu, const QString &css)
+{
+    for (int i = 0; i < menu.screens.size(); ++i) {
+        const QScriptValue &screen = menu.screens.at(i);
+        const QString name = screen.property(menu.handler.names().css).toString();
+        if (repeatedScreenName(name) == css
+            && isCompartmentOrMeterButton(screen, menu.handler.names()))
+            return true;
+    }
+    return false;
+}
