@@ -5,7 +5,7 @@ set -euo pipefail
 
 help() {
     cat <<'END'
-Usage: ./demo.sh [--state DIR] [--idle MS] [--web-root DIR] [--help]
+Usage: ./demo.sh [--state DIR] [--idle MS] [--trace FILE] [--web-root DIR] [--help]
 
 Opens the Dravikon console on a simulated truck controller, in this terminal. On
 Debian 12 it first installs the packages that the build needs (with sudo when
@@ -13,6 +13,7 @@ you are not root), and builds the demo and dravikon-menu-check in build/release.
 
   --state DIR  keep the device's state in DIR and continue from there next time;
                without it each session starts with a fresh device
+  --trace FILE write each run of the backend tool to FILE, a JSON object a line
   --idle MS    end after MS milliseconds without a key (default 180000)
   --web-root DIR
                preview the menu definition in DIR instead, on a device made from
@@ -70,7 +71,6 @@ The state
   DIR/state.json         all values of the device, written by its backend tool
   DIR/DBusController     the backend tool that the console runs; try
                          DIR/DBusController get_menu truck_setup
-  DIR/calls.log          if you create it, one line for each run of the tool
 
 Umlauts
 The console reads and writes Latin-1, like the terminals used at the truck. In a
@@ -93,7 +93,7 @@ while (($#)); do
         ;;
     --state) [[ ${2-} ]] || fail "--state needs a directory" ;;
     --idle) [[ ${2-} =~ ^[1-9][0-9]{0,8}$ ]] || fail "--idle needs a number of milliseconds" ;;
-    --web-root | --tool | --compartments | --meters | --seal)
+    --web-root | --trace | --tool | --compartments | --meters | --seal)
         [[ ${2-} ]] || fail "$1 needs a value"
         ;;
     *) fail "unknown option $1" ;;

@@ -48,7 +48,7 @@ int runConsole(const SessionOptions &options)
 {
     CTranslationHandler::setInstanceRoot(options.paths.webRoot);
     TerminalLine line;
-    auto gui = std::make_unique<TerminalGui>(options.paths, line);
+    auto gui = std::make_unique<TerminalGui>(options.paths, line, options.runTool);
     auto reader = std::make_unique<TerminalReader>(options.idleMs, gui->shownScreen());
     installSessionHandlers(*gui);
     reader->init();

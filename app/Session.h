@@ -1,12 +1,13 @@
 // One run of the console: command line, start-up order, exit status.
 #pragma once
 
-#include "platform/DevicePaths.h"
+#include "menu/ScriptHelper.h"
 
 /// What a session runs on; the product takes the defaults.
 struct SessionOptions {
     DevicePaths paths;
     int idleMs = 180000; ///< the session ends after this many milliseconds without a key
+    ToolRunner runTool = {}; ///< if set, takes the place of running the tool at its path
 };
 
 /// Runs the console as the command line asks: version, usage text, or the interactive session.

@@ -11,7 +11,7 @@ QByteArray ToolCalls::run(const QStringList &arguments)
     QElapsedTimer timer;
     timer.start();
     ToolCall &call = made[arguments];
-    call.output = BackendTool::run(tool, arguments, patienceMs);
+    call.output = trace.run(tool, arguments, patienceMs).output;
     call.durationMs = timer.elapsed();
     return call.output;
 }

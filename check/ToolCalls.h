@@ -1,7 +1,7 @@
 // The runs of the backend tool that the checker makes.
 #pragma once
 
-#include "backend/BackendTool.h"
+#include "check/CallTrace.h"
 
 #include <functional>
 #include <map>
@@ -37,6 +37,7 @@ public:
 
     const QString tool;
     const int patienceMs;
+    CallTrace trace; ///< receives the runs once it is open
 
 private:
     const Progress progress;

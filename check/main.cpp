@@ -65,7 +65,7 @@ CheckStatus reportDevice(LoadedMenu &menu, const ToolCalls &calls)
     return problems.isEmpty() ? Clean : HasProblems;
 }
 
-int check(const DevicePaths &paths, bool wantsDevice, bool wantsTree)
+int check(const DevicePaths &paths, bool wantsDevice, bool wantsTree, const QString &trace)
 {
     const QString fault = unreadableScript(paths);
     if (!fault.isEmpty())
@@ -74,6 +74,9 @@ int check(const DevicePaths &paths, bool wantsDevice, bool wantsTree)
     ToolCalls calls(paths.backendTool, [](int number, const QStringList &arguments) {
         showProgress(QStringLiteral("%1: %2").arg(number).arg(shownCall(arguments)));
     });
+    const QString problem = trace.isEmpty() ? QString() : calls.trace.open(trace);
+    if (!problem.isEmpty())
+        return failure(wrongUsage, problem);
     LoadedMenu menu(paths, [&calls](const QStringList &arguments) { return calls.run(arguments); });
     if (menu.root->children.empty())
         return reportMenu(menu);
@@ -87,9 +90,10 @@ int check(const DevicePaths &paths, bool wantsDevice, bool wantsTree)
     return wantsDevice ? qMax(ofMenu, reportDevice(menu, calls)) : ofMenu;
 }
 
-int checkInOwnProcess(const DevicePaths &paths, bool wantsDevice, bool wantsTree)
+int checkInOwnProcess(
+    const DevicePaths &paths, bool wantsDevice, bool wantsTree, const QString &trace)
 {
-    const WorkEnd end = doInOwnProcess([&] { return check(paths, wantsDevice, wantsTree); });
+    const WorkEnd end = doInOwnProcess([&] { return check(paths, wantsDevice, wantsTree, trace); });
     if (end.hasCrashed())
         return failure(EngineCrashed, crashText(paths.settingsScript, end));
     if (end.status < 0)
@@ -118,13 +122,18 @@ int main(int argc, char **argv)
     const QCommandLineOption tool(QStringLiteral("tool"),
         QStringLiteral("The backend tool that --device runs."), QStringLiteral("PATH"),
         DevicePaths().backendTool);
-    parser.addOptions({ webRoot, tree, device, tool });
+    const QCommandLineOption trace(QStringLiteral("trace"),
+        QStringLiteral("Write each run of the tool to FILE, a JSON object a line."),
+        QStringLiteral("FILE"));
+    parser.addOptions({ webRoot, tree, device, tool, trace });
 
     if (const std::optional<int> status = parseCommandLine(parser))
         return *status;
     if (parser.isSet(tool) && !parser.isSet(device))
         return failure(wrongUsage, QStringLiteral("--tool is for --device"));
+    if (parser.isSet(trace) && !parser.isSet(device))
+        return failure(wrongUsage, QStringLiteral("--trace is for --device"));
     DevicePaths paths { parser.value(webRoot) };
     paths.backendTool = QFileInfo(parser.value(tool)).absoluteFilePath();
-    return checkInOwnProcess(paths, parser.isSet(device), parser.isSet(tree));
+    return checkInOwnProcess(paths, parser.isSet(device), parser.isSet(tree), parser.value(trace));
 }

@@ -1,6 +1,7 @@
 #include "preview/Preview.h"
 
 #include "app/Session.h"
+#include "check/CallTrace.h"
 #include "check/CommandLine.h"
 #include "check/FileFindings.h"
 #include "check/MenuCheck.h"
@@ -26,6 +27,7 @@ struct PreviewOptions {
     QString webRoot;
     QString values; ///< file with values to start from; empty for none
     QString stateDirectory; ///< empty: a temporary one
+    CallTrace trace;
     QString tool; ///< empty: that of the simulated device
     DeviceWishes wishes;
     int idleMs = SessionOptions().idleMs;
@@ -51,6 +53,7 @@ void addOptions(QCommandLineParser &parser)
         "session starts with a fresh device.",
         "DIR");
     add("idle", "End after MS milliseconds without a key (default 180000).", "MS");
+    add("trace", "Write each run of the backend tool to FILE, a JSON object a line.", "FILE");
     add("tool", "Run FILE as the backend tool; there is no simulated device then.", "FILE");
 }
 
@@ -96,9 +99,10 @@ QString takeSeal(const QCommandLineParser &parser, std::optional<bool> &isOpen)
 QString takeOptions(const QCommandLineParser &parser, PreviewOptions &options)
 {
     std::optional<int> idleMs;
+    QString trace;
     for (const QString &problem : { takePath(parser, "web-root", options.webRoot),
              takePath(parser, "state", options.stateDirectory),
-             takePath(parser, "tool", options.tool),
+             takePath(parser, "tool", options.tool), takePath(parser, "trace", trace),
              takeNumber(parser, "compartments", 0, 999, options.wishes.compartments),
              takeNumber(parser, "meters", 0, 999, options.wishes.meters),
              takeNumber(parser, "idle", 1, std::numeric_limits<int>::max(), idleMs),
@@ -110,7 +114,7 @@ QString takeOptions(const QCommandLineParser &parser, PreviewOptions &options)
     const QFileInfo tool(options.tool);
     if (!options.tool.isEmpty() && !(tool.isFile() && tool.isExecutable()))
         return QStringLiteral("cannot run ") + options.tool;
-    return {};
+    return trace.isEmpty() ? QString() : options.trace.open(trace);
 }
 
 // The exit status where no session is to follow.
@@ -153,12 +157,17 @@ int reportProblems(const DevicePaths &paths)
     return 0;
 }
 
-int runOn(const QString &tool, const PreviewOptions &options, char *program)
+int runOn(const QString &tool, PreviewOptions &options, char *program)
 {
     SessionOptions session;
     session.paths = { options.webRoot };
     session.paths.backendTool = tool;
     session.idleMs = options.idleMs;
+    if (options.trace.isOpen()) {
+        session.runTool = [&](const QStringList &arguments) {
+            return options.trace.run(tool, arguments).output;
+        };
+    }
     int argc = 1;
     char *argv[] = { program, nullptr };
     const int status = runSession(argc, argv, session);
@@ -170,7 +179,7 @@ int runOn(const QString &tool, const PreviewOptions &options, char *program)
     return status;
 }
 
-int runOnSimulatedDevice(const QString &directory, const PreviewOptions &options, char *program)
+int runOnSimulatedDevice(const QString &directory, PreviewOptions &options, char *program)
 {
     const QString problem = makeSimulatedDevice(
         directory, ownPath(program), { options.webRoot }, options.values, options.wishes);

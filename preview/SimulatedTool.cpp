@@ -5,7 +5,6 @@
 #include "preview/MenuValues.h"
 
 #include <QFile>
-#include <QStringList>
 
 #include <cstdio>
 
@@ -35,15 +34,6 @@ QString directoryOf(const char *program)
     const QString path = QFile::decodeName(program);
     const int slash = path.lastIndexOf(QLatin1Char('/'));
     return slash < 0 ? QStringLiteral(".") : path.left(slash + 1);
-}
-
-void logCall(const QString &directory, const QStringList &arguments)
-{
-    QFile log(directory + QLatin1String("/calls.log"));
-    if (!log.open(QIODevice::Append | QIODevice::ExistingOnly))
-        return;
-    const QVariantList line(arguments.begin(), arguments.end());
-    log.write(deviceJson(line) + '\n');
 }
 
 QVariant answerTo(const Call &call, const QString &file, DeviceState &state)
@@ -87,8 +77,6 @@ int runSimulatedTool(int argc, char **argv)
     QStringList arguments;
     for (int index = 1; index < argc; ++index)
         arguments += QString::fromUtf8(argv[index]);
-    logCall(directory, arguments);
-
     const QByteArray answer = simulatedAnswer(directory, arguments);
     if (answer.isEmpty())
         return 1;

@@ -83,9 +83,10 @@ bool TranscriptPlayer::start(bool onDemo, int rows, int columns)
 {
     if (onDemo)
         demo = std::make_unique<QTemporaryDir>();
-    takeCalls();
     const bool isDone = onDemo ? session.PtySession::start(QStringLiteral(DEMO),
-                            { QStringLiteral("--state"), demo->path() }, rows, columns)
+                            { QStringLiteral("--state"), demo->path(), QStringLiteral("--trace"),
+                                demo->filePath(QStringLiteral("trace")) },
+                            rows, columns)
                                : session.run(rows, columns);
     return isDone && session.waitFor([this] { return !session.bytesSinceMark().isEmpty(); });
 }
@@ -116,13 +117,14 @@ QStringList TranscriptPlayer::takeCalls()
     if (!demo)
         return session.device.takeCalls().replaceInStrings(
             QStringLiteral("|"), QStringLiteral(" "));
-    // The demo's tool writes calls into this file when there is one.
-    QFile log(demo->filePath(QStringLiteral("calls.log")));
+    QFile trace(demo->filePath(QStringLiteral("trace")));
     QStringList calls;
-    if (log.open(QIODevice::ReadWrite)) {
-        while (!log.atEnd())
-            calls += parseJson(log.readLine())->toStringList().join(QLatin1Char(' '));
-        log.resize(0);
+    if (trace.open(QIODevice::ReadWrite)) {
+        while (!trace.atEnd()) {
+            const QVariantMap call = parseJson(trace.readLine())->toMap();
+            calls += call.value(QStringLiteral("arguments")).toStringList().join(QLatin1Char(' '));
+        }
+        trace.resize(0);
     }
     return calls;
 }
