@@ -1,6 +1,7 @@
 // What each key does in each view.
 #include "app/TerminalGui.h"
 
+#include "render/Selection.h"
 #include "render/ValueDialog.h"
 
 #include <QCoreApplication>
@@ -42,9 +43,9 @@ void TerminalGui::processStartKey(int key)
     case Qt::Key_Return:
         return chooseStart();
     case Qt::Key_Up:
-        return moveSelection(state, handler, false, -1);
+        return moveVertically(-1);
     case Qt::Key_Down:
-        return moveSelection(state, handler, false, +1);
+        return moveVertically(+1);
     default:
         if (isQuit(key))
             closeGui();
@@ -56,13 +57,13 @@ void TerminalGui::processMenuKey(int key)
     const int page = state.termRows - 2;
     switch (key) {
     case Qt::Key_Up:
-        return moveSelection(state, handler, false, -1);
+        return moveVertically(-1);
     case Qt::Key_Down:
-        return moveSelection(state, handler, false, +1);
+        return moveVertically(+1);
     case Qt::Key_PageUp:
-        return moveSelection(state, handler, false, -page);
+        return moveVertically(-page);
     case Qt::Key_PageDown:
-        return moveSelection(state, handler, false, +page);
+        return moveVertically(+page);
     case Qt::Key_Return:
         return activateItem();
     default:
@@ -76,19 +77,19 @@ void TerminalGui::processEditKey(int key)
     state.overlayLines.clear();
     switch (key) {
     case Qt::Key_Escape:
-        return dropEdit();
+        return closeEdit();
     case Qt::Key_Backspace:
         return removeCharacter(state, handler);
     case Qt::Key_Return:
         return confirmEdit();
     case Qt::Key_Left:
-        return moveSelection(state, handler, true, -1);
+        return moveHorizontally(-1);
     case Qt::Key_Right:
-        return moveSelection(state, handler, true, +1);
+        return moveHorizontally(+1);
     case Qt::Key_Up:
-        return moveSelection(state, handler, false, -1);
+        return moveVertically(-1);
     case Qt::Key_Down:
-        return moveSelection(state, handler, false, +1);
+        return moveVertically(+1);
     default:
         return typeCharacter(state, handler, key);
     }
@@ -99,14 +100,24 @@ void TerminalGui::processDiagnoseKey(int key)
     state.overlayLines.clear();
     switch (key) {
     case Qt::Key_PageUp:
-        return moveSelection(state, handler, false, -1);
+        return moveVertically(-1);
     case Qt::Key_PageDown:
-        return moveSelection(state, handler, false, +1);
+        return moveVertically(+1);
     case Qt::Key_Escape:
         return leaveDiagnose();
     default:
         break;
     }
+}
+
+void TerminalGui::moveVertically(int delta)
+{
+    moveSelection(state, handler, false, delta);
+}
+
+void TerminalGui::moveHorizontally(int delta)
+{
+    moveSelection(state, handler, true, delta);
 }
 
 void TerminalGui::chooseStart()
@@ -157,11 +168,11 @@ void TerminalGui::confirmEdit()
     }
     if (isChosen)
         state.formerValue.reset();
-    dropEdit();
+    closeEdit();
     state.menuLines.clear();
 }
 
-void TerminalGui::dropEdit()
+void TerminalGui::closeEdit()
 {
     // A value that the backend refused must neither be shown nor go out with its group.
     dropValue(state);

@@ -66,16 +66,21 @@ private:
     void drawMenu();
     void buildOverlay(int line);
 
+    /// \name Keys (bodies in app/KeyDispatch.cpp, like that of `processKeyEvent`)
+    /// @{
     void processStartKey(int key);
     void processMenuKey(int key);
     void processEditKey(int key);
     void processDiagnoseKey(int key);
+    void moveVertically(int delta);
+    void moveHorizontally(int delta);
     void activateItem();
     void toggleSelected();
     void confirmEdit();
-    void dropEdit();
+    void closeEdit();
     void leaveDiagnose();
     void chooseStart();
+    /// @}
 
     TreeViewItemHandler handler;
     std::unique_ptr<TreeViewItem> root; ///< null until the menu is first shown

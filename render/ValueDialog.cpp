@@ -1,10 +1,11 @@
 #include "render/ValueDialog.h"
 
-#include "json/Saturated.h"
 #include "json/Values.h"
 #include "locale/CTranslationHandler.h"
+#include "menu/Saturated.h"
 #include "render/ForeignText.h"
 #include "render/InputValidation.h"
+#include "render/Selection.h"
 
 #include <functional>
 
@@ -141,24 +142,6 @@ std::optional<QVariant> chosenValue(
     return std::nullopt;
 }
 
-int within(int lowest, int limit, qint64 index)
-{
-    if (index < lowest)
-        return lowest;
-    return index >= limit ? limit - 1 : int(index);
-}
-
-int horizontalIndex(const ViewState &state, const TreeViewItemHandler &handler, qint64 index)
-{
-    if (index < state.rangeMin)
-        return state.rangeMin;
-    if (index > state.rangeLimit)
-        return state.rangeLimit;
-    const TreeViewItem *const item = state.selectedItem();
-    const bool isEdit = item && handler.inputKind(*item) == EditInput;
-    return isEdit ? qMin(int(index), state.editBuffer.size()) : int(index);
-}
-
 } // namespace
 
 Frame startMenu(ViewState &state)
@@ -210,28 +193,6 @@ void dropValue(ViewState &state)
     if (item && state.formerValue)
         item->value = *state.formerValue;
     state.formerValue.reset();
-}
-
-void moveSelection(ViewState &state, const TreeViewItemHandler &handler, bool horizontal, int delta)
-{
-    const qint64 distance = qint64(delta) * state.step;
-    switch (state.currentView) {
-    case MenuView:
-        if (!horizontal)
-            state.selectedIndex = within(0, state.visibleCount(), state.selectedIndex + distance);
-        break;
-    case StartView:
-    case EditView:
-    case DiagnoseView:
-        if (horizontal)
-            state.dialogValue = horizontalIndex(state, handler, state.dialogValue + distance);
-        else
-            state.listIndex = within(state.listMin, state.optionCount, state.listIndex + distance);
-        state.overlayLines.clear();
-        break;
-    case NoView:
-        break;
-    }
 }
 
 void typeCharacter(ViewState &state, const TreeViewItemHandler &handler, int key)

@@ -12,12 +12,6 @@ Frame startMenu(ViewState &state);
 /// item's value and its bounds over into `state`.
 Frame valueDialog(ViewState &state, const TreeViewItemHandler &handler, const TreeViewItem &item);
 
-/// Moves the index of the current view by `delta` steps and keeps it within its bounds: the
-/// vertical limit is exclusive, the horizontal one inclusive. The menu only moves vertically; the
-/// cursor of an edit field goes as far as the end of the text. Elsewhere it empties `overlayLines`.
-void moveSelection(
-    ViewState &state, const TreeViewItemHandler &handler, bool horizontal, int delta);
-
 /// Inserts the byte `key` at the cursor while the text is shorter than its field. Keys that are no
 /// byte type nothing.
 void typeCharacter(ViewState &state, const TreeViewItemHandler &handler, int key);

@@ -2,6 +2,7 @@
 #include "preview/DeviceState.h"
 #include "preview/MenuValues.h"
 #include "preview/SimulatedDevice.h"
+#include "render/Selection.h"
 #include "render/ValueDialog.h"
 #include "terminal/Keys.h"
 #include "tests/support/FakeDevice.h"
