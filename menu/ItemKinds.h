@@ -1,6 +1,8 @@
 // The words by which a menu definition says what an item is.
 #pragma once
 
+#include <QString>
+
 #include <array>
 
 /// Words of "inputType".
@@ -44,38 +46,42 @@ enum InterfaceKind : int {
     LevelInterface
 };
 
-/// What belongs to a kind of field interfaces; all null for NoInterface and beyond the last kind.
+/// What belongs to a kind of field interfaces.
 struct InterfaceWords {
-    const char *css = nullptr; ///< of the menu entry that opens its diagnose screen
-    const char *listQuery = nullptr; ///< asks the backend for its state
-    const char *name = nullptr; ///< in the command that switches it on and off
-    const char *title = nullptr; ///< of its diagnose screen
+    const char *css; ///< of the menu entry that opens its diagnose screen
+    const char *listQuery; ///< asks the backend for its state
+    const char *name; ///< in the command that switches it on and off
+    const char *title; ///< of its diagnose screen
 };
+/// By InterfaceKind; all null for NoInterface.
+constexpr std::array<InterfaceWords, LevelInterface + 1> interfaceWords = { {
+    {},
+    { "btnServiceDiagnoseSpdInterfaces", "get_menu_service_diagnose_spd_interfaces", "SpdInterface",
+        "SPD Interface Diagnose (IF: <Page UP/DOWN | End: 2*<ESC>)" },
+    { "btnServiceDiagnoseIOInterfaces", "get_menu_service_diagnose_io_interfaces", "IoInterface",
+        "IO Interface Diagnose (IF: <Page UP/DOWN | End: 2*<ESC>)" },
+    { "btnServiceDiagnoseWetlegInterfaces", "get_menu_service_diagnose_wetleg_interfaces",
+        "WetlegInterface", "Wetleg Interface Diagnose (IF: <Page UP/DOWN | End: 2*<ESC>)" },
+    { "btnServiceDiagnoseTagInterfaces", "get_menu_service_diagnose_tag_interfaces", "TagInterface",
+        "TAG Interface Diagnose (End: 2*<ESC>)" },
+    { "btnServiceDiagnoseAsInterfaces", "get_menu_service_diagnose_as_interfaces", "AsInterface",
+        "AS Interface Diagnose (End: 2*<ESC>)" },
+    { "btnServiceDiagnoseLevelInterfaces", "get_menu_service_diagnose_level_interfaces",
+        "LevelInterface", "Level Interface Diagnose (End: 2*<ESC>)" },
+} };
+static_assert(interfaceWords.back().title, "each kind has its words");
 
-constexpr InterfaceWords wordsOf(InterfaceKind kind)
+/// The words of `kind`; those of NoInterface for any number that is no kind.
+constexpr const InterfaceWords &wordsOf(InterfaceKind kind)
 {
-    switch (kind) {
-    case NoInterface:
-        break;
-    case SpdInterface:
-        return { "btnServiceDiagnoseSpdInterfaces", "get_menu_service_diagnose_spd_interfaces",
-            "SpdInterface", "SPD Interface Diagnose (IF: <Page UP/DOWN | End: 2*<ESC>)" };
-    case IoInterface:
-        return { "btnServiceDiagnoseIOInterfaces", "get_menu_service_diagnose_io_interfaces",
-            "IoInterface", "IO Interface Diagnose (IF: <Page UP/DOWN | End: 2*<ESC>)" };
-    case WetlegInterface:
-        return { "btnServiceDiagnoseWetlegInterfaces",
-            "get_menu_service_diagnose_wetleg_interfaces", "WetlegInterface",
-            "Wetleg Interface Diagnose (IF: <Page UP/DOWN | End: 2*<ESC>)" };
-    case TagInterface:
-        return { "btnServiceDiagnoseTagInterfaces", "get_menu_service_diagnose_tag_interfaces",
-            "TagInterface", "TAG Interface Diagnose (End: 2*<ESC>)" };
-    case AsInterface:
-        return { "btnServiceDiagnoseAsInterfaces", "get_menu_service_diagnose_as_interfaces",
-            "AsInterface", "AS Interface Diagnose (End: 2*<ESC>)" };
-    case LevelInterface:
-        return { "btnServiceDiagnoseLevelInterfaces", "get_menu_service_diagnose_level_interfaces",
-            "LevelInterface", "Level Interface Diagnose (End: 2*<ESC>)" };
-    }
-    return {};
+    return interfaceWords[kind > NoInterface && kind <= LevelInterface ? kind : NoInterface];
+}
+
+/// The kind whose diagnose screen an entry with `css` opens; NoInterface when there is none.
+inline InterfaceKind interfaceWithCss(const QString &css)
+{
+    int kind = LevelInterface;
+    while (kind > NoInterface && css != QLatin1String(wordsOf(InterfaceKind(kind)).css))
+        --kind;
+    return InterfaceKind(kind);
 }
