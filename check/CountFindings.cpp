@@ -31,7 +31,7 @@ bool hasValuesUpTo(int place, const LoadedMenu &menu, const QScriptValue &screen
 
 Findings findingsOf(const CountEntry &entry, const LoadedMenu &menu, const QScriptValue &screen)
 {
-    const int place = placeOf(entry, screen, menu.handler.names());
+    const int place = positionOf(entry, screen, menu.handler.names());
     if (place < 0) {
         return { error("no-count", "it has no entry \"%1\", so there are none of these; add it",
             QLatin1String(entry.field)) };

@@ -55,7 +55,7 @@ private:
         if (screen < 0)
             return;
         const TreeViewItem item(menu.screens.at(screen), {}, nullptr, -1, 0);
-        const int place = placeOf(entry, item.definition, handler.names());
+        const int place = positionOf(entry, item.definition, handler.names());
         const QStringList call(handler.readBinding(item).value_or(QString()));
         if (place < 0 || !calls.find(call))
             return;

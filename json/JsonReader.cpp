@@ -41,7 +41,7 @@ public:
     }
     bool Key(const char *text, rapidjson::SizeType length, bool)
     {
-        open.back().key = QString::fromUtf8(text, int(length));
+        containers.back().key = QString::fromUtf8(text, int(length));
         return true;
     }
     bool StartObject() { return enter(true); }
@@ -59,31 +59,31 @@ private:
 
     bool enter(bool isMap)
     {
-        if (open.size() == maximumDepth)
+        if (containers.size() == maximumDepth)
             return false;
-        open.push_back({ isMap, {}, {}, {} });
+        containers.push_back({ isMap, {}, {}, {} });
         return true;
     }
 
     bool leave()
     {
-        const Container done = std::move(open.back());
-        open.pop_back();
+        const Container done = std::move(containers.back());
+        containers.pop_back();
         return done.isMap ? add(done.map) : add(done.list);
     }
 
     bool add(const QVariant &element)
     {
-        if (open.empty())
+        if (containers.empty())
             value = element;
-        else if (open.back().isMap)
-            open.back().map.insert(open.back().key, element);
+        else if (containers.back().isMap)
+            containers.back().map.insert(containers.back().key, element);
         else
-            open.back().list.append(element);
+            containers.back().list.append(element);
         return true;
     }
 
-    std::vector<Container> open;
+    std::vector<Container> containers; ///< those that are not complete, outermost first
 };
 
 JsonFault faultAt(const QByteArray &json, size_t offset, rapidjson::ParseErrorCode error)

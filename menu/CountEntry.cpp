@@ -2,7 +2,7 @@
 
 #include <QScriptValueIterator>
 
-int placeOf(const CountEntry &entry, const QScriptValue &screen, const PropertyNames &names)
+int positionOf(const CountEntry &entry, const QScriptValue &screen, const PropertyNames &names)
 {
     QScriptValueIterator candidate(screen.property(names.screens));
     for (int place = 0; candidate.hasNext(); ++place) {

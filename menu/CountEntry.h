@@ -15,4 +15,4 @@ constexpr CountEntry meterCount = { "btnParameterInterfacesCanFasWm", "interface
 
 /// The place of the entry among all entries of `screen`, from 0; -1 when the screen lacks it. The
 /// backend's answer is expected to have the number at the same place.
-int placeOf(const CountEntry &entry, const QScriptValue &screen, const PropertyNames &names);
+int positionOf(const CountEntry &entry, const QScriptValue &screen, const PropertyNames &names);

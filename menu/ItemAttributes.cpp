@@ -1,9 +1,9 @@
 // The attribute queries: what an item's definition says about it.
 #include "menu/TreeViewItemHandler.h"
 
-#include "json/Saturated.h"
 #include "json/Values.h"
 #include "menu/RepeatedScreen.h"
+#include "menu/Saturated.h"
 
 #include <cmath>
 
@@ -12,17 +12,17 @@ namespace {
 // A script can claim any length for its lists; nobody scrolls through more than this.
 constexpr int maximumValues = 100000;
 
-// The place of the value's text among `words`; their number when it is none of them.
+// The index of the value's text among `words`; `count` when it is not among them.
 template <size_t count>
-size_t placeOf(const QScriptValue &value, const std::array<const char *, count> &words)
+size_t indexOfWord(const QScriptValue &value, const std::array<const char *, count> &words)
 {
     if (!value.isValid())
         return count;
     const QString text = value.toString();
-    size_t place = 0;
-    while (place < count && text != QLatin1String(words[place]))
-        ++place;
-    return place;
+    size_t index = 0;
+    while (index < count && text != QLatin1String(words[index]))
+        ++index;
+    return index;
 }
 
 std::optional<QString> textIfPresent(const QScriptValue &value)
@@ -80,24 +80,19 @@ std::optional<QString> TreeViewItemHandler::writeBinding(const TreeViewItem &ite
 
 InputKind TreeViewItemHandler::inputKind(const TreeViewItem &item) const
 {
-    return InputKind(placeOf(item.definition.property(propertyNames.inputType), inputWords));
+    return InputKind(indexOfWord(item.definition.property(propertyNames.inputType), inputWords));
 }
 
 TypeKind TreeViewItemHandler::typeKind(const TreeViewItem &item) const
 {
-    return TypeKind(placeOf(item.definition.property(propertyNames.type), typeWords));
+    return TypeKind(indexOfWord(item.definition.property(propertyNames.type), typeWords));
 }
 
 InterfaceKind TreeViewItemHandler::diagnoseScreen(const TreeViewItem &item) const
 {
-    if (typeKind(item) != StatusType)
-        return NoInterface;
-    const QString css = item.definition.property(propertyNames.css).toString();
-    for (int kind = SpdInterface; wordsOf(InterfaceKind(kind)).css; ++kind) {
-        if (css == QLatin1String(wordsOf(InterfaceKind(kind)).css))
-            return InterfaceKind(kind);
-    }
-    return NoInterface;
+    return typeKind(item) == StatusType
+        ? interfaceWithCss(item.definition.property(propertyNames.css).toString())
+        : NoInterface;
 }
 
 bool TreeViewItemHandler::isEditable(const TreeViewItem &item) const

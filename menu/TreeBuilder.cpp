@@ -105,7 +105,7 @@ private:
     const ScreenIndex &screens;
     const RepeatCounts counts;
     const PropertyNames &names;
-    std::vector<bool> isOpen; ///< by screen: it is being expanded, or one below it is
+    std::vector<bool> isOpen; ///< by screen: on the path from the root to the current item
     int itemCount = 0;
     int level = 0;
     bool warnedOfSize = false;

@@ -54,7 +54,7 @@ QVariant TreeViewItemHandler::lookUpCount(const ScreenIndex &screens, const Coun
         return {};
     if (!screens.at(screen).property(propertyNames.screens).isValid())
         return noCount("!screens.isValid()");
-    const int place = placeOf(entry, screens.at(screen), propertyNames);
+    const int place = positionOf(entry, screens.at(screen), propertyNames);
     if (place < 0)
         return noCount("!searchIndexFound");
     const QScriptValue readWords = screens.at(screen).property(propertyNames.read);

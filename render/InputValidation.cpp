@@ -1,6 +1,6 @@
 #include "render/InputValidation.h"
 
-#include "json/Saturated.h"
+#include "menu/Saturated.h"
 
 #include <algorithm>
 
