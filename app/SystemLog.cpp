@@ -1,7 +1,6 @@
 #include "app/SystemLog.h"
 
-#include <QDateTime>
-#include <QLocale>
+#include <QString>
 
 #include <cerrno>
 #include <cstring>
@@ -14,14 +13,6 @@
 namespace {
 
 constexpr int maximumLength = 8192; // log daemons take no more as one message
-
-// Log daemons expect an English month and the day padded by a blank.
-QByteArray timestamp()
-{
-    const QDateTime now = QDateTime::currentDateTime();
-    const QString text = QLocale::c().toString(now, QStringLiteral("MMM%1 hh:mm:ss"));
-    return text.arg(now.date().day(), 3).toLatin1();
-}
 
 } // namespace
 
@@ -38,8 +29,9 @@ SystemLog::~SystemLog()
 
 bool SystemLog::send(int priority, const QByteArray &line)
 {
-    const QByteArray message = '<' + QByteArray::number(LOG_USER | priority) + '>' + timestamp()
-        + ' ' + program_invocation_short_name + '[' + QByteArray::number(getpid())
+    // The daemon adds the time.
+    const QByteArray message = '<' + QByteArray::number(LOG_USER | priority) + '>'
+        + QByteArray(program_invocation_short_name) + '[' + QByteArray::number(getpid())
         + "]: " + line.left(maximumLength);
     // A daemon that was restarted needs a new connection.
     for (int attempt = 0; attempt < 2; ++attempt) {
