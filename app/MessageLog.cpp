@@ -3,6 +3,7 @@
 #include "app/SystemLog.h"
 #include "platform/WriteAtOnce.h"
 
+#include <QMap>
 #include <QString>
 #include <QtGlobal>
 
@@ -19,19 +20,9 @@ bool isLineOpen = false; // standard error took only the start of the last line
 
 int priorityOf(QtMsgType type)
 {
-    switch (type) {
-    case QtDebugMsg:
-        return LOG_DEBUG;
-    case QtInfoMsg:
-        return LOG_INFO;
-    case QtWarningMsg:
-        return LOG_WARNING;
-    case QtCriticalMsg:
-        return LOG_ERR;
-    case QtFatalMsg:
-        return LOG_CRIT;
-    }
-    return LOG_NOTICE;
+    static const QMap<QtMsgType, int> priorities { { QtDebugMsg, LOG_DEBUG },
+        { QtInfoMsg, LOG_INFO }, { QtWarningMsg, LOG_WARNING }, { QtCriticalMsg, LOG_ERR } };
+    return priorities.value(type, LOG_CRIT);
 }
 
 bool writeToStandardError(const QByteArray &line)

@@ -40,7 +40,6 @@ void startTimer(qint64 ms) noexcept
     setitimer(ITIMER_REAL, &timer, nullptr);
 }
 
-// The session does not end by itself: a script does not return, or the terminal takes no output.
 void cutOff() noexcept
 {
     BackendTool::killRunning();

@@ -35,8 +35,7 @@ class ErrnoKeeper {
 public:
     ErrnoKeeper() = default;
     ~ErrnoKeeper() { errno = kept; }
-    ErrnoKeeper(const ErrnoKeeper &) = delete;
-    ErrnoKeeper &operator=(const ErrnoKeeper &) = delete;
+    Q_DISABLE_COPY(ErrnoKeeper)
 
 private:
     const int kept = errno;
@@ -61,20 +60,9 @@ bool isIgnored(int number)
 
 bool endsProcess(int number)
 {
-    switch (number) {
-    case SIGKILL:
-    case SIGSTOP:
-    case SIGTSTP:
-    case SIGTTIN:
-    case SIGTTOU:
-    case SIGCONT:
-    case SIGCHLD:
-    case SIGURG:
-    case SIGWINCH:
-        return false;
-    default:
-        return true;
-    }
+    static const sigset_t others = signalSet(
+        { SIGKILL, SIGSTOP, SIGTSTP, SIGTTIN, SIGTTOU, SIGCONT, SIGCHLD, SIGURG, SIGWINCH });
+    return !sigismember(&others, number);
 }
 
 void reportDeath(int number) noexcept

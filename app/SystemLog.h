@@ -10,8 +10,7 @@ public:
     /// Connects with the first line.
     explicit SystemLog(const QByteArray &socketPath);
     ~SystemLog();
-    SystemLog(const SystemLog &) = delete;
-    SystemLog &operator=(const SystemLog &) = delete;
+    Q_DISABLE_COPY(SystemLog)
 
     /// Sends one line with a priority of <syslog.h>; a line above 8 KiB is cut. False if there is
     /// no daemon, or if it does not take the line at once.

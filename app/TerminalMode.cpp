@@ -4,48 +4,36 @@
 
 #include <unistd.h>
 
-namespace {
-
-// For signal handlers.
-std::atomic<const termios *> saved(nullptr);
-std::atomic<const termios *> working(nullptr);
-
-void apply(const termios *attributes) noexcept
-{
-    if (attributes)
-        tcsetattr(STDIN_FILENO, TCSANOW, attributes);
-}
-
-} // namespace
+static std::atomic<const TerminalMode *> current(nullptr); // for signal handlers
 
 TerminalMode::TerminalMode()
 {
     tcgetattr(STDIN_FILENO, &savedTermios);
     workingTermios = savedTermios;
     workingTermios.c_lflag &= ~tcflag_t(ICANON | ECHO);
-    saved = &savedTermios;
-    working = &workingTermios;
+    current = this;
     resume();
 }
 
 TerminalMode::~TerminalMode()
 {
     restore();
-    working = nullptr;
-    saved = nullptr;
+    current = nullptr;
 }
 
 bool TerminalMode::isActive() noexcept
 {
-    return saved;
+    return current;
 }
 
 void TerminalMode::restore() noexcept
 {
-    apply(saved);
+    if (const TerminalMode *const mode = current)
+        tcsetattr(STDIN_FILENO, TCSANOW, &mode->savedTermios);
 }
 
 void TerminalMode::resume() noexcept
 {
-    apply(working);
+    if (const TerminalMode *const mode = current)
+        tcsetattr(STDIN_FILENO, TCSANOW, &mode->workingTermios);
 }

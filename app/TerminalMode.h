@@ -1,6 +1,8 @@
 // The attributes of the terminal on standard input.
 #pragma once
 
+#include <QtGlobal>
+
 #include <termios.h>
 
 /// Switches the terminal to single keys without echo, and back when it is destroyed. Without effect
@@ -9,8 +11,7 @@ class TerminalMode {
 public:
     TerminalMode();
     ~TerminalMode();
-    TerminalMode(const TerminalMode &) = delete;
-    TerminalMode &operator=(const TerminalMode &) = delete;
+    Q_DISABLE_COPY(TerminalMode)
 
     /// True while a TerminalMode exists. Async-signal-safe.
     static bool isActive() noexcept;

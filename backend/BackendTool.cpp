@@ -46,7 +46,6 @@ bool killTool(pid_t tool) noexcept
     return kill(tool, SIGKILL) == 0;
 }
 
-// Kills a tool that still runs and waits until it has ended.
 void endTool(ToolProcess &tool)
 {
     if (!killTool(tool.pid()))

@@ -79,8 +79,7 @@ public:
         posix_spawn_file_actions_destroy(&files);
     }
 
-    Surroundings(const Surroundings &) = delete;
-    Surroundings &operator=(const Surroundings &) = delete;
+    Q_DISABLE_COPY(Surroundings)
 
     posix_spawn_file_actions_t files;
     posix_spawnattr_t attributes;

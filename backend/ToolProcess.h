@@ -28,8 +28,7 @@ public:
     /// Reaps the program, or leaves one that still runs to be reaped when another one is started.
     ~ToolProcess();
 
-    ToolProcess(const ToolProcess &) = delete;
-    ToolProcess &operator=(const ToolProcess &) = delete;
+    Q_DISABLE_COPY(ToolProcess)
 
     /// The process id, which is also that of its group; 0 when the program could not be started.
     /// No other process gets it before the destructor returns.

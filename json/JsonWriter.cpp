@@ -29,7 +29,6 @@ bool writeDouble(Writer &writer, double number, int digits)
 // The library's own escapes stop at half a surrogate pair; a text goes out as it is, unit by unit.
 bool writeText(Writer &writer, const QString &text)
 {
-    static const char hexDigits[] = "0123456789abcdef";
     QByteArray json;
     json.reserve(text.size() + 2);
     json += '"';
@@ -40,9 +39,7 @@ bool writeText(Writer &writer, const QString &text)
                 json += '\\';
             json += char(unit);
         } else {
-            json += "\\u";
-            for (int shift = 12; shift >= 0; shift -= 4)
-                json += hexDigits[(unit >> shift) & 0xf];
+            json += "\\u" + QByteArray::number(unit, 16).rightJustified(4, '0');
         }
     }
     json += '"';

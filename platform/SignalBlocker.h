@@ -1,14 +1,16 @@
 // Code that signals must not interrupt.
 #pragma once
 
+#include <QtGlobal>
+
 #include <csignal>
 #include <initializer_list>
 
 /// The set of the given signals.
 sigset_t signalSet(std::initializer_list<int> numbers);
 
-/// The signals that the code does not cause by a fault of its own. Faults must not be blocked: the
-/// kernel would end the program at once, without its handlers.
+/// All signals but SIGSEGV, SIGBUS, SIGFPE and SIGILL. The kernel ends a program at once that
+/// causes one of these while it is blocked.
 const sigset_t &asynchronousSignals();
 
 /// Blocks a set of signals in this thread for a scope. The destructor restores the former mask
@@ -18,8 +20,7 @@ class SignalBlocker {
 public:
     explicit SignalBlocker(const sigset_t &set);
     ~SignalBlocker();
-    SignalBlocker(const SignalBlocker &) = delete;
-    SignalBlocker &operator=(const SignalBlocker &) = delete;
+    Q_DISABLE_COPY(SignalBlocker)
 
     /// The mask that the destructor restores.
     const sigset_t &formerMask() const { return former; }

@@ -26,8 +26,7 @@ Frame composeFrame(const ViewState &state, const QString &title)
     frame.insert(0, cutToWidth(headerBar(), columns));
     for (int row = 1; row <= rows - 2; ++row) {
         const int line = top + row - 1;
-        // Keep boxWidth characters more: a box line shorter than the box pulls them into the row.
-        QString text = state.menuLines.value(line).left(columns + boxWidth);
+        QString text = state.menuLines.value(line);
         if (hasBox && row >= boxTop && row <= rows / 2 + boxHeight / 2) {
             replaceText(text, columns / 2 - boxWidth / 2, boxWidth,
                 Escape::reset + state.overlayLines.value(row - boxTop));
