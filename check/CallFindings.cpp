@@ -1,8 +1,7 @@
 #include "check/CallFindings.h"
 
 #include "check/Answer.h"
-
-#include <QFileInfo>
+#include "check/Utf8Findings.h"
 
 namespace {
 
@@ -13,35 +12,68 @@ QString durationText(qint64 ms)
     return QString::number(double(ms) / 1000, 'f', 1);
 }
 
-QString whyNoArray(const ToolCall &call)
+// The beginning of what the tool printed, in quotes.
+QString excerpt(const QByteArray &printed)
 {
-    if (call.output.trimmed().isEmpty())
-        return QStringLiteral("printed nothing; it failed, or does not know these words");
+    constexpr int longest = 60;
+    const QString line =
+        QString::fromUtf8(printed).trimmed().section(QLatin1Char('\n'), 0, 0).trimmed();
+    return QLatin1Char('"') + line.left(longest)
+        + QLatin1String(line.size() > longest ? "...\"" : "\"");
+}
+
+// How the run ended, where that is no success, and what it wrote to standard error.
+QString endText(const ToolCall &call)
+{
+    QStringList texts;
+    if (call.end.kind == ToolEnd::Signalled)
+        texts += QStringLiteral("signal %1 ended it").arg(call.end.number);
+    else if (call.end.kind == ToolEnd::Exited && call.end.number != 0)
+        texts += QStringLiteral("its exit status was %1").arg(call.end.number);
+    if (!call.errors.trimmed().isEmpty())
+        texts += QStringLiteral("it wrote to standard error: ") + excerpt(call.errors);
+    return texts.join(QLatin1String(", "));
+}
+
+QString whyNoArray(const QStringList &arguments, const ToolCall &call)
+{
+    QStringList texts;
     JsonFault fault;
-    if (jsonOf(call, &fault))
-        return QStringLiteral("printed JSON that is no array; put the values between [ and ]");
-    return QStringLiteral("printed no JSON, ") + fault.text();
+    if (call.end.kind == ToolEnd::PrintedTooMuch)
+        texts += QStringLiteral("printed more than 16 MiB, which is no answer");
+    else if (call.output.trimmed().isEmpty())
+        texts += QStringLiteral("printed nothing; it failed, or does not know these words");
+    else if (jsonOf(call, &fault))
+        texts += QStringLiteral("printed JSON that is no array; put the values between [ and ]");
+    else
+        texts += QStringLiteral("printed no JSON, %1; the answer begins with ").arg(fault.text())
+            + excerpt(call.output);
+    if (arguments.size() == 1 && arguments.first().contains(QLatin1Char(' ')))
+        texts += QStringLiteral("for this number all words come as one argument");
+    texts += endText(call);
+    texts.removeAll({});
+    return texts.join(QLatin1String("; "));
 }
 
 // What concerns any call, also one that answers in plain text.
 Findings runFindings(const ToolCalls &calls, const QStringList &arguments)
 {
     const ToolCall &call = *calls.find(arguments);
-    const QFileInfo tool(calls.tool);
-    if (!tool.isFile() || !tool.isExecutable()) {
-        return { error("no-tool",
-            "<%1> was not asked, as the tool cannot be started; correct its path or permissions",
-            shownCall(arguments)) };
+    const QString words = shownCall(arguments);
+    if (call.isWithheld) {
+        return { error("write-call",
+            "<%1> was not run, as screens write with these words; correct the \"ajax-read\"",
+            words) };
     }
-    if (call.durationMs >= calls.patienceMs) {
+    if (call.end.kind == ToolEnd::TimedOut) {
         return { error("hanging-call",
             "<%1> did not end within %2 s and was killed; what it printed until then is its answer",
-            shownCall(arguments), durationText(calls.patienceMs)) };
+            words, durationText(calls.patienceMs)) };
     }
     if (call.durationMs > slowMs) {
         return { warning("slow-call",
             "<%1> took %2 s, and the console waits for it; answer within a few ten milliseconds",
-            shownCall(arguments), durationText(call.durationMs)) };
+            words, durationText(call.durationMs)) };
     }
     return {};
 }
@@ -52,27 +84,44 @@ bool isDead(const Findings &ofRun)
     return !ofRun.isEmpty() && ofRun.first().severity == Severity::Error;
 }
 
+// The console uses an answer however its run has ended.
+Findings badEndFindings(const QStringList &arguments, const ToolCall &call)
+{
+    if (call.end.kind == ToolEnd::Exited && call.end.number == 0)
+        return {};
+    return { warning("tool-end", "<%1> answered, but %2; end with 0 after an answer",
+        shownCall(arguments), endText(call)) };
+}
+
 } // namespace
 
 Findings callFindings(const ToolCalls &calls, const QStringList &arguments)
 {
-    Findings findings = runFindings(calls, arguments);
+    const Findings findings = runFindings(calls, arguments);
+    if (isDead(findings))
+        return findings;
     const ToolCall &call = *calls.find(arguments);
-    if (!isDead(findings) && !answerOf(call)) {
-        findings << error("no-array", "<%1> %2", shownCall(arguments), whyNoArray(call));
+    if (!answerOf(call)) {
+        return findings
+            + Findings { error(
+                "no-array", "<%1> %2", shownCall(arguments), whyNoArray(arguments, call)) };
     }
-    return findings;
+    return findings + badEndFindings(arguments, call)
+        + utf8Findings(call.output, QStringLiteral("the answer to <%1>").arg(shownCall(arguments)));
 }
 
 Findings versionFindings(const ToolCalls &calls, const QStringList &arguments)
 {
-    Findings findings = runFindings(calls, arguments);
-    const QByteArray output = calls.find(arguments)->output;
-    if (!isDead(findings) && output.split('/').first().trimmed().isEmpty()) {
-        findings << warning("no-tool-version",
+    const Findings findings = runFindings(calls, arguments);
+    if (isDead(findings))
+        return findings;
+    const ToolCall &call = *calls.find(arguments);
+    if (!call.output.split('/').first().trimmed().isEmpty())
+        return findings + badEndFindings(arguments, call);
+    const QString end = endText(call);
+    return findings
+        + Findings { warning("no-tool-version",
             "<%1> printed no text before the first \"/\", so the bottom row shows no version; "
-            "print one",
-            shownCall(arguments));
-    }
-    return findings;
+            "print one%2",
+            shownCall(arguments), end.isEmpty() ? end : QLatin1String("; ") + end) };
 }

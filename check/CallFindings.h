@@ -1,10 +1,10 @@
-// no-tool, hanging-call, slow-call, no-array, no-tool-version: single calls of the backend tool.
+// hanging-call, slow-call, no-array, tool-end, write-call, no-tool-version: calls of the tool.
 #pragma once
 
 #include "check/Finding.h"
 #include "check/ToolCalls.h"
 
-/// Why a call gave no JSON array, and a call that took too long.
+/// Why a call was not made or gave no JSON array, and one that took too long or ended badly.
 Findings callFindings(const ToolCalls &calls, const QStringList &arguments);
 
 /// A version that the bottom row cannot show.

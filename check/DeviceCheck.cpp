@@ -2,6 +2,7 @@
 
 #include "check/Answer.h"
 #include "check/CallFindings.h"
+#include "check/CallWords.h"
 #include "check/CountFindings.h"
 #include "check/InterfaceFindings.h"
 #include "check/QuietMessages.h"
@@ -33,6 +34,11 @@ public:
 
     void run()
     {
+        if (!calls.fault().isEmpty()) {
+            report.add(
+                calls.tool, { error("no-tool", "the tool cannot be started: %1", calls.fault()) });
+            return;
+        }
         report.add(calls.tool, versionFindings(calls, versionCall));
         checkSeal();
         for (const CountEntry &entry : { compartmentCount, meterCount })
@@ -136,8 +142,10 @@ void readInterfaces(TreeViewItemHandler &handler, const TreeViewItem &item)
 
 } // namespace
 
-void readDevice(LoadedMenu &menu, DeviceExtent extent)
+void readDevice(LoadedMenu &menu, ToolCalls &calls, DeviceExtent extent)
 {
+    const CallWords words(menu);
+    calls.withhold([words](const QStringList &arguments) { return words.mayWrite(arguments); });
     const QuietMessages quiet;
     menu.repeatScreens(menu.handler.readCounts(menu.screens));
     expandAll(*menu.root);
@@ -159,6 +167,8 @@ QStringList deviceProblems(LoadedMenu &menu, const ToolCalls &calls)
 
 QStringList failedCalls(const ToolCalls &calls)
 {
+    if (!calls.fault().isEmpty())
+        return { calls.tool + QStringLiteral(" cannot be started: ") + calls.fault() };
     QStringList lines;
     for (const auto &call : calls.all()) {
         for (const Finding &finding : callFindings(calls, call.first)) {
@@ -172,6 +182,8 @@ QStringList failedCalls(const ToolCalls &calls)
 QStringList callSummary(const ToolCalls &calls)
 {
     constexpr int shownCalls = 5;
+    if (calls.all().empty())
+        return {};
     std::multimap<qint64, QString, std::greater<>> slowest;
     qint64 total = 0;
     for (const auto &[arguments, call] : calls.all()) {

@@ -9,10 +9,10 @@ enum class DeviceExtent {
     Everything ///< versions and interface screens as well
 };
 
-/// Reads everything of `extent` from the device, by the tool that `menu` was made with. The tree
+/// Reads everything of `extent` from the device by `calls`, with which `menu` was made. The tree
 /// then has the device's compartments and meters and all values, and everything in it is opened.
-/// Nothing is written.
-void readDevice(LoadedMenu &menu, DeviceExtent extent);
+/// Nothing is written: calls with words that a screen writes with are not made.
+void readDevice(LoadedMenu &menu, ToolCalls &calls, DeviceExtent extent);
 
 /// The problems of the answers to `calls`, in the form of `menuProblems`, after everything was read
 /// by them.
@@ -21,5 +21,5 @@ QStringList deviceProblems(LoadedMenu &menu, const ToolCalls &calls);
 /// The calls that failed, so that values are missing, one a line.
 QStringList failedCalls(const ToolCalls &calls);
 
-/// The number of calls and the slowest five, one a line.
+/// The number of calls and the slowest five, one a line; nothing when there was none.
 QStringList callSummary(const ToolCalls &calls);

@@ -1,25 +1,25 @@
 #include "check/FindingNames.h"
 
-namespace {
-
-// All names, in the order of the manual page.
-const QStringList names = QStringLiteral(
-    "script no-version not-utf8 translation-table "
-    "dangling-reference no-template self-reference unreached duplicate-css "
-    "list-screen no-count count-place entry-type entry-screens "
-    "misspelled-attribute unknown-input-type unknown-type unknown-finding "
-    "interface-type interface-css access-level remote "
-    "no-values value-count equal-values empty-value integer-list wide-option "
-    "slider-number slider slider-step "
-    "no-validation no-range range dead-rule narrow-rule "
-    "no-read no-write dead-read hidden-read quotes empty-words same-words exchanged-words "
-    "no-label untranslated wide-label unshowable "
-    "no-tool hanging-call slow-call no-array tool-end write-call few-values many-values "
-    "list-value boolean-value slider-value edit-value count-value seal-status no-tool-version "
-    "interface-answer")
-                              .split(QLatin1Char(' '));
-
-} // namespace
+const QStringList &findingNames()
+{
+    // In the order of the manual page.
+    static const QStringList names = QStringLiteral(
+        "script no-version not-utf8 translation-table "
+        "dangling-reference no-template self-reference unreached duplicate-css "
+        "list-screen no-count count-place entry-type entry-screens "
+        "misspelled-attribute unknown-input-type unknown-type unknown-finding "
+        "interface-type interface-css access-level remote "
+        "no-values value-count equal-values empty-value integer-list wide-option "
+        "slider-number slider slider-step "
+        "no-validation no-range range dead-rule narrow-rule "
+        "no-read no-write dead-read hidden-read quotes empty-words same-words exchanged-words "
+        "no-label untranslated wide-label unshowable "
+        "no-tool hanging-call slow-call no-array tool-end write-call few-values many-values "
+        "list-value boolean-value slider-value edit-value count-value seal-status no-tool-version "
+        "interface-answer")
+                                         .split(QLatin1Char(' '));
+    return names;
+}
 
 QStringList allowedFindings(const QScriptValue &definition)
 {
@@ -32,7 +32,7 @@ Findings nameFindings(const QScriptValue &definition)
 {
     Findings findings;
     for (const QString &name : allowedFindings(definition)) {
-        if (!names.contains(name)) {
+        if (!findingNames().contains(name)) {
             findings << warning("unknown-finding",
                 "\"checkIgnore\" names \"%1\", which is no finding; write the names as they are in "
                 "brackets, separated by blanks",

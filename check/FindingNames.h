@@ -6,6 +6,9 @@
 #include <QScriptValue>
 #include <QStringList>
 
+/// The names of all findings.
+const QStringList &findingNames();
+
 /// The findings that `definition` allows in its "checkIgnore".
 QStringList allowedFindings(const QScriptValue &definition);
 

@@ -1,18 +1,45 @@
 #include "check/ToolCalls.h"
 
+#include "check/ToolFault.h"
+
 #include <QElapsedTimer>
+
+#include <cstring>
+
+ToolCalls::ToolCalls(QString tool, Progress progress, int patienceMs)
+    : tool(std::move(tool))
+    , patienceMs(patienceMs)
+    , progress(std::move(progress))
+    , toolFault(::toolFault(this->tool))
+{
+}
+
+void ToolCalls::withhold(std::function<bool(const QStringList &)> mayWrite)
+{
+    this->mayWrite = std::move(mayWrite);
+}
 
 QByteArray ToolCalls::run(const QStringList &arguments)
 {
     if (const ToolCall *const call = find(arguments))
         return call->output;
+    if (!toolFault.isEmpty())
+        return {};
+    ToolCall &call = made[arguments];
+    call.isWithheld = mayWrite && mayWrite(arguments);
+    if (call.isWithheld)
+        return {};
     if (progress)
-        progress(int(made.size()) + 1, arguments);
+        progress(int(made.size()), arguments);
     QElapsedTimer timer;
     timer.start();
-    ToolCall &call = made[arguments];
-    call.output = trace.run(tool, arguments, patienceMs).output;
+    static_cast<ToolRun &>(call) = trace.run(tool, arguments, patienceMs);
     call.durationMs = timer.elapsed();
+    if (call.end.kind == ToolEnd::NotStarted) {
+        toolFault = QString::fromLocal8Bit(std::strerror(call.end.number));
+        made.erase(arguments);
+        return {};
+    }
     return call.output;
 }
 
@@ -26,7 +53,7 @@ QString shownCall(const QStringList &arguments)
 {
     QStringList words;
     for (const QString &argument : arguments) {
-        const bool isWord = !argument.contains(QLatin1Char(' '));
+        const bool isWord = !argument.isEmpty() && !argument.contains(QLatin1Char(' '));
         words += isWord ? argument : QLatin1Char('\'') + argument + QLatin1Char('\'');
     }
     return words.join(QLatin1Char(' '));

@@ -7,9 +7,9 @@
 #include <map>
 
 /// One run of the tool.
-struct ToolCall {
-    QByteArray output;
+struct ToolCall : ToolRun {
     qint64 durationMs = 0;
+    bool isWithheld = false; ///< not made, as it might write
 };
 
 /// Runs the tool once for each list of arguments and keeps what it prints.
@@ -20,12 +20,10 @@ public:
 
     /// A tool that still runs after `patienceMs` is killed.
     explicit ToolCalls(
-        QString tool, Progress progress = {}, int patienceMs = BackendTool::patienceMs)
-        : tool(std::move(tool))
-        , patienceMs(patienceMs)
-        , progress(std::move(progress))
-    {
-    }
+        QString tool, Progress progress = {}, int patienceMs = BackendTool::patienceMs);
+
+    /// From now on no call is made for which `mayWrite` is true.
+    void withhold(std::function<bool(const QStringList &)> mayWrite);
 
     /// What the tool prints for `arguments`.
     QByteArray run(const QStringList &arguments);
@@ -35,12 +33,17 @@ public:
 
     const std::map<QStringList, ToolCall> &all() const { return made; }
 
+    /// Why the tool cannot be started, which is not tried again then; empty if it can.
+    const QString &fault() const { return toolFault; }
+
     const QString tool;
     const int patienceMs;
     CallTrace trace; ///< receives the runs once it is open
 
 private:
     const Progress progress;
+    std::function<bool(const QStringList &)> mayWrite;
+    QString toolFault;
     std::map<QStringList, ToolCall> made;
 };
 

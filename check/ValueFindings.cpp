@@ -17,28 +17,52 @@ Findings booleanValueFindings(const QVariant &value)
         "%1 is no truth value, but shown as it is; answer true or false", shownValue(value)) };
 }
 
+QString labelOf(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    const QString label = QLatin1Char('"') + translate(handler.labelKey(item)) + QLatin1Char('"');
+    if (item.referringEntry.isValid())
+        return label + QLatin1String(" (reference)");
+    return handler.isVisible(item) ? label : label + QLatin1String(" (hidden)");
+}
+
+// Which entry each value falls to, as far as the first of them.
+QString distribution(const QStringList &labels, const QVariantList &answer)
+{
+    constexpr int longest = 12;
+    const int count = qMax(labels.size(), answer.size());
+    QStringList texts;
+    for (int i = 0; i < qMin(count, longest); ++i) {
+        texts += labels.value(i, QStringLiteral("no entry")) + QLatin1String(" = ")
+            + (i < answer.size() ? shownValue(answer.at(i)) : QStringLiteral("no value"));
+    }
+    if (count > longest)
+        texts += QStringLiteral("...");
+    return texts.join(QLatin1String(", "));
+}
+
 } // namespace
 
 Findings lengthFindings(
     const TreeViewItemHandler &handler, const TreeViewItem &screen, const QVariantList &answer)
 {
-    int entries = 0;
-    QString firstEmpty;
+    QStringList labels;
     for (const auto &child : screen.children) {
-        if (handler.isValueBearing(*child) && entries++ == answer.size())
-            firstEmpty = translate(handler.labelKey(*child));
+        if (handler.isValueBearing(*child))
+            labels += labelOf(handler, *child);
     }
-    if (entries > answer.size()) {
+    const QString values = distribution(labels, answer);
+    if (labels.size() > answer.size()) {
         return { error("few-values",
-            "the answer has %1 of %2 values: from \"%3\" on the entries stay empty and are written "
-            "as null; answer a value for each but separators and buttons",
-            answer.size(), entries, firstEmpty) };
+            "the answer has %1 of %2 values: from %3 on the entries stay empty and are written as "
+            "null (%4); answer a value for each but separators and buttons, also for hidden fields "
+            "and references",
+            answer.size(), labels.size(), labels.at(answer.size()), values) };
     }
-    if (entries < answer.size()) {
+    if (labels.size() < answer.size()) {
         return { error("many-values",
             "the answer has %1 values instead of %2, so those after the surplus one are shown and "
-            "written at the wrong entries; answer a value for each but separators and buttons",
-            answer.size(), entries) };
+            "written at the wrong entries (%3); answer a value for each but separators and buttons",
+            answer.size(), labels.size(), values) };
     }
     return {};
 }

@@ -38,9 +38,9 @@ CheckStatus printMenu(LoadedMenu &menu)
 }
 
 // Values that are missing are an error, as the printed menu is made to be compared with another.
-CheckStatus printDeviceMenu(LoadedMenu &menu, const ToolCalls &calls)
+CheckStatus printDeviceMenu(LoadedMenu &menu, ToolCalls &calls)
 {
-    readDevice(menu, DeviceExtent::Values);
+    readDevice(menu, calls, DeviceExtent::Values);
     showProgress({});
     print(stdout, menuOutline(menu));
     const QStringList failed = failedCalls(calls);
@@ -55,9 +55,9 @@ CheckStatus reportMenu(LoadedMenu &menu)
     return problems.isEmpty() ? Clean : HasProblems;
 }
 
-CheckStatus reportDevice(LoadedMenu &menu, const ToolCalls &calls)
+CheckStatus reportDevice(LoadedMenu &menu, ToolCalls &calls)
 {
-    readDevice(menu, DeviceExtent::Everything);
+    readDevice(menu, calls, DeviceExtent::Everything);
     showProgress({});
     const QStringList problems = deviceProblems(menu, calls);
     print(stdout, problems);

@@ -7,6 +7,7 @@
 #include "check/MenuCheck.h"
 #include "check/OwnProcess.h"
 #include "check/QuietMessages.h"
+#include "check/ToolFault.h"
 #include "preview/DisposableDirectory.h"
 #include "preview/SimulatedDevice.h"
 #include "preview/SimulatedTool.h"
@@ -111,9 +112,9 @@ QString takeOptions(const QCommandLineParser &parser, PreviewOptions &options)
             return problem;
     }
     options.idleMs = idleMs.value_or(options.idleMs);
-    const QFileInfo tool(options.tool);
-    if (!options.tool.isEmpty() && !(tool.isFile() && tool.isExecutable()))
-        return QStringLiteral("cannot run ") + options.tool;
+    const QString fault = options.tool.isEmpty() ? QString() : toolFault(options.tool);
+    if (!fault.isEmpty())
+        return options.tool + QStringLiteral(" cannot be started: ") + fault;
     return trace.isEmpty() ? QString() : options.trace.open(trace);
 }
 

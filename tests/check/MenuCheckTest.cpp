@@ -1,6 +1,7 @@
 #include "check/MenuCheck.h"
 #include "check/DeviceCheck.h"
-#include "check/FileFindings.h"
+#include "check/FindingNames.h"
+#include "check/ToolFault.h"
 #include "locale/CTranslationHandler.h"
 #include "preview/SimulatedDevice.h"
 #include "terminal/PtySession.h"
@@ -36,7 +37,7 @@ class MenuCheckTest : public QObject {
         ToolCalls calls(device.paths().backendTool, {}, patienceMs);
         LoadedMenu menu(device.paths(),
             [&calls](const QStringList &arguments) { return calls.run(arguments); });
-        readDevice(menu, DeviceExtent::Everything);
+        readDevice(menu, calls, DeviceExtent::Everything);
         return problems() + deviceProblems(menu, calls);
     }
 
@@ -115,26 +116,125 @@ private slots:
         // Each question is asked once; Level has none, and nothing is written.
         QStringList calls = device.takeCalls();
         QCOMPARE(calls.removeDuplicates(), 0);
-        QVERIFY(calls.filter(QRegularExpression(QStringLiteral("level|enable_if|\\["))).isEmpty());
+        QVERIFY(calls
+                    .filter(QRegularExpression(
+                        QStringLiteral("level|enable_if|\\[|^write$|^write.[0-9]|^set")))
+                    .isEmpty());
         QCOMPARE(calls.isEmpty(), answers.isEmpty());
     }
 
     void survivesTools_data()
     {
-        const Rows<QByteArray, int, QString> row("commands", "patienceMs", "problems");
-        row("crash", "kill -9 $$", 9000, "warning no-tool-version, error no-array, error no-array");
-        row("hang", "sleep 60", 100, "error hanging-call, error hanging-call, error hanging-call");
-        row("not executable", "chmod -x $0", 9000, "error no-tool, error no-tool, error no-tool");
+        const Rows<QByteArray, int, QString, QString> row(
+            "commands", "patienceMs", "problems", "says");
+        const auto onRead = [](const QByteArray &commands) {
+            return "[ $1 != read ] && echo '[\"i18n_wm_true\"]' || { " + commands + "; }";
+        };
+        row("good", onRead("echo '[1]'"), 9000, "", "");
+        row("crash", "kill -9 $$", 9000, "warning no-tool-version, error no-array, error no-array",
+            "printed nothing; it failed, or does not know these words; signal 9 ended it");
+        row("crash after the answer", onRead("echo '[1]'; kill -9 $$"), 9000, "warning tool-end",
+            "<read> answered, but signal 9 ended it; end with 0");
+        row("failure", onRead("echo '\n  no such menu\nhelp: -h' >&2; exit 3"), 9000,
+            "error no-array",
+            "its exit status was 3, it wrote to standard error: \"no such menu\"");
+        row("failure after the answer", onRead("echo '[1]'; exit 3"), 9000, "warning tool-end",
+            "<read> answered, but its exit status was 3; end with 0");
+        row("warning of a tool that succeeds", onRead("echo '[1]'; echo slow >&2"), 9000, "", "");
+        row("failure after the version", onRead("echo '[1]'") + "; [ $1 != --version ]", 9000,
+            "warning tool-end", "<--version> answered, but its exit status was 1");
+        row("escape sequence", onRead("printf '\\033[1m'"), 9000, "error no-array",
+            "the answer begins with \" [1m\"");
+        row("long text", onRead("printf %0100d 0"), 9000, "error no-array",
+            "begins with \"000000000000000000000000000000000000000000000000000000000000...\"");
+        row("without end", onRead("yes"), 9000, "error no-array", "more than 16 MiB");
+        row("Latin-1", onRead("printf '[\"\\344\\344\"]'"), 9000, "warning not-utf8",
+            "the answer to <read> is not UTF-8 (line 1, byte 3)");
+        row("hang", "sleep 60", 100, "error hanging-call, error hanging-call, error hanging-call",
+            "within 0.1 s");
+        row("not executable any more", "chmod -x $0", 9000, "error no-tool",
+            "cannot be started: Permission denied");
         row("slow", "[ $1 = read ] && sleep 1.1; echo '[1]'", 9000,
-            "error seal-status, warning slow-call");
+            "error seal-status, warning slow-call", "<read> took 1.");
     }
     void survivesTools()
     {
         QFETCH(QByteArray, commands);
         QFETCH(int, patienceMs);
+        QFETCH(QString, says);
         device.setTool(commands);
         device.setScreens(oneField);
-        QTEST(namesOf(problemsOnDevice(patienceMs)), "problems");
+        const QStringList lines = problemsOnDevice(patienceMs);
+        QTEST(namesOf(lines), "problems");
+        QVERIFY2(lines.join(QLatin1Char('\n')).contains(says),
+            qPrintable(lines.join(QLatin1Char('\n'))));
+    }
+
+    void findsToolsThatCannotBeStarted_data()
+    {
+        const Rows<QByteArray, QString, QString> row("content", "mode", "says");
+        row("script", "#!/bin/sh\n", "700", "");
+        row("script with a blank and an option", "#! /bin/sh -e\n", "700", "");
+        row("no file", "", "", "there is no such file");
+        row("empty file", "", "700", "neither a program nor a script");
+        row("not executable", "#!/bin/sh\n", "600", "allow it with chmod +x");
+        row("no interpreter", "echo '[1]'\n", "700", "neither a program nor a script");
+        row("carriage return", "#!/bin/sh\r\necho\r\n", "700", "carriage return");
+        row("missing interpreter", "#!/no/shell -e\n", "700", "interpreter \"/no/shell\"");
+        row("folder as interpreter", "#!/\n", "700", "interpreter \"/\"");
+        row("nothing as interpreter", "#!\n", "700", "interpreter \"\"");
+    }
+    void findsToolsThatCannotBeStarted()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, mode);
+        QFETCH(QString, says);
+        const QTemporaryDir directory;
+        const QString path = directory.filePath(QStringLiteral("tool"));
+        QFile file(path);
+        if (!mode.isEmpty()) {
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+            file.close();
+            file.setPermissions(QFile::Permissions(mode.toInt(nullptr, 16)));
+        }
+        const QString fault = toolFault(path);
+        QVERIFY2(says.isEmpty() ? fault.isEmpty() : fault.contains(says), qPrintable(fault));
+    }
+
+    void reportsAToolThatCannotBeStartedOnce()
+    {
+        QCOMPARE(toolFault(QStringLiteral(CHECKER)), QString());
+        device.setScreens(oneField);
+        const Run made = run({ root(), ask, QStringLiteral("--tool=/") });
+        QCOMPARE(made.status, 1);
+        QCOMPARE(made.output,
+            QStringLiteral("error: /: the tool cannot be started: it is no file; "
+                           "correct its path [no-tool]\n"));
+        QCOMPARE(made.messages, QString());
+    }
+
+    void documentsEveryFinding()
+    {
+        QFile manual(QStringLiteral(SOURCES "/packaging/dravikon-menu-check.1"));
+        QVERIFY(manual.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(manual.readAll());
+        QSet<QString> documented;
+        const QRegularExpression findings(QStringLiteral("\\n\\.It Li ([a-z0-9 ,-]+)"));
+        for (auto list = findings.globalMatch(text); list.hasNext();) {
+            const QStringList names = list.next().captured(1).split(QStringLiteral(" , "));
+            documented += QSet<QString>(names.begin(), names.end());
+        }
+        const QStringList &known = findingNames();
+        QCOMPARE(documented, QSet<QString>(known.begin(), known.end()));
+        // Each has a row here or in the table.
+        QFile table(QStringLiteral(SOURCES "/tests/check/faults.md"));
+        QFile rows(QStringLiteral(SOURCES "/tests/check/MenuCheckTest.cpp"));
+        QVERIFY(table.open(QIODevice::ReadOnly) && rows.open(QIODevice::ReadOnly));
+        const QString tested = QString::fromUtf8(table.readAll() + rows.readAll());
+        for (const QString &name : known) {
+            const QRegularExpression use(QStringLiteral("(error|warning) %1\\b").arg(name));
+            QVERIFY2(tested.contains(use), qPrintable(name));
+        }
     }
 
     void findsFaultsOfFiles_data()
