@@ -9,6 +9,10 @@
 
 #include <csignal>
 
+// They open and close what there is, or do nothing.
+const QByteArrayList keysOfAnyMenu = { Key::enter, Key::down, Key::enter, Key::enter, Key::pageDown,
+    Key::enter, Key::escape, Key::pageUp, Key::up, Key::enter };
+
 class SessionTest : public QObject {
     Q_OBJECT
 
@@ -66,7 +70,6 @@ private slots:
     {
         const Rows<QByteArray, QByteArray, QByteArray, QString> row(
             "script", "tool", "translations", "message");
-        row("no file at all", "", "", "", "");
         row("thrown error", script + "\nthrow new Error('boo')", goodTool, "[]",
             R"(isError()) "lineNumber" "8")");
         row("control characters", script, R"(printf 'x\033[2J\377\000[')",
@@ -85,14 +88,21 @@ private slots:
         session.device.setScript(script);
         session.device.setTool(tool);
         session.device.setTranslations(translations);
-        const DevicePaths &paths = session.device.paths();
-        QVERIFY(!tool.isEmpty()
-            || (QFile::remove(paths.backendTool) && QFile::remove(paths.settingsScript)));
-        QVERIFY(session.start());
-        QVERIFY(session.press({ Key::enter, Key::down, Key::enter, Key::enter, Key::pageDown,
-            Key::enter, Key::escape, Key::pageUp, Key::up, Key::enter }));
+        QVERIFY(session.start() && session.press(keysOfAnyMenu));
         QCOMPARE(session.terminal().row(0), QStringLiteral("Quenstadel"));
         QVERIFY(session.messages().contains(message));
+        QVERIFY(session.press({ "q" }));
+        QCOMPARE(session.waitForExit(), endedWell);
+    }
+
+    void noFiles()
+    {
+        Session session;
+        QVERIFY(QFile::remove(session.device.paths().backendTool));
+        QVERIFY(QFile::remove(session.device.paths().settingsScript));
+        QVERIFY(session.start() && session.press(keysOfAnyMenu));
+        QCOMPARE(session.terminal().row(0), QStringLiteral("Quenstadel"));
+        QVERIFY(!session.messages().contains(QStringLiteral("settings script")));
         QVERIFY(session.press({ "q" }));
         QCOMPARE(session.waitForExit(), endedWell);
     }
@@ -155,9 +165,6 @@ private slots:
         row("while the tool runs", "sleep 0.1; " + goodTool, edit + "Eva\n",
             R"(set|truck|["EmmaEva",true])");
         row("paste", goodTool, edit + "5~O\n", R"(set|truck|["Emma5~O",true])");
-        // No call: the session ends.
-        row("with Q", goodTool, Key::down + 'Q' + edit, "");
-        row("with Ctrl-C", goodTool, edit + Key::interrupt + edit, "");
     }
 
     void keysTogether()
@@ -169,11 +176,23 @@ private slots:
         session.device.setTool(tool);
         QVERIFY(session.start() && session.send(keys));
         QStringList calls;
-        if (call.isEmpty())
-            QCOMPARE(session.waitForExit(), endedWell);
-        else
-            QVERIFY(session.waitFor(
-                [&] { return (calls += session.device.takeCalls()).contains(call); }));
+        QVERIFY(
+            session.waitFor([&] { return (calls += session.device.takeCalls()).contains(call); }));
+    }
+
+    void endAmongKeys_data()
+    {
+        const Rows<QByteArray> row("keys");
+        row("Q", Key::down + 'Q' + Key::enter);
+        row("Ctrl-C", keysToEditField.join() + Key::interrupt + Key::enter);
+    }
+
+    void endAmongKeys()
+    {
+        QFETCH(QByteArray, keys);
+        Session session;
+        QVERIFY(session.start() && session.send(keys));
+        QCOMPARE(session.waitForExit(), endedWell);
     }
 
     // Each key acts, but few of their frames are written.
