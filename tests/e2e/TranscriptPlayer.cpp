@@ -1,6 +1,5 @@
 #include "tests/e2e/TranscriptPlayer.h"
 
-#include "json/JsonReader.h"
 #include "terminal/KeyText.h"
 
 #include <QFile>
@@ -57,16 +56,16 @@ QString TranscriptPlayer::setAnswer(const QString &line)
 QString TranscriptPlayer::doStep(const QString &action)
 {
     static const QRegularExpression form(
-        QStringLiteral("^(?:(start demo|start|resize) (\\d+)x(\\d+) ?)?(.*)$"));
+        QStringLiteral("^(?:(start|resize) (\\d+)x(\\d+) ?)?(.*)$"));
     const QRegularExpressionMatch found = form.match(action);
     const QString verb = found.captured(1);
     const int columns = found.captured(2).toInt();
     const int rows = found.captured(3).toInt();
     const std::optional<QByteArrayList> keys = keysFromText(found.captured(4));
-    const bool isStart = verb.startsWith(QLatin1String("start"));
+    const bool isStart = verb == QLatin1String("start");
     if (!keys || isStart == isStarted())
         return QStringLiteral("unknown words, or not one start before all other steps");
-    if (isStart && !start(verb.endsWith(QLatin1String("demo")), rows, columns))
+    if (isStart && !start(rows, columns))
         return QStringLiteral("the console does not start");
     if (!isStart)
         session.mark();
@@ -79,16 +78,11 @@ QString TranscriptPlayer::doStep(const QString &action)
     return isDone ? QString() : QStringLiteral("the console hangs");
 }
 
-bool TranscriptPlayer::start(bool onDemo, int rows, int columns)
+bool TranscriptPlayer::start(int rows, int columns)
 {
-    if (onDemo)
-        demo = std::make_unique<QTemporaryDir>();
-    const bool isDone = onDemo ? session.PtySession::start(QStringLiteral(DEMO),
-                            { QStringLiteral("--state"), demo->path(), QStringLiteral("--trace"),
-                                demo->filePath(QStringLiteral("trace")) },
-                            rows, columns)
-                               : session.run(rows, columns);
-    return isDone && session.waitFor([this] { return !session.bytesSinceMark().isEmpty(); });
+    takeCalls();
+    return session.run(rows, columns)
+        && session.waitFor([this] { return !session.bytesSinceMark().isEmpty(); });
 }
 
 QStringList TranscriptPlayer::outcome()
@@ -114,17 +108,5 @@ QStringList TranscriptPlayer::outcome()
 
 QStringList TranscriptPlayer::takeCalls()
 {
-    if (!demo)
-        return session.device.takeCalls().replaceInStrings(
-            QStringLiteral("|"), QStringLiteral(" "));
-    QFile trace(demo->filePath(QStringLiteral("trace")));
-    QStringList calls;
-    if (trace.open(QIODevice::ReadWrite)) {
-        while (!trace.atEnd()) {
-            const QVariantMap call = parseJson(trace.readLine())->toMap();
-            calls += call.value(QStringLiteral("arguments")).toStringList().join(QLatin1Char(' '));
-        }
-        trace.resize(0);
-    }
-    return calls;
+    return session.device.takeCalls().replaceInStrings(QStringLiteral("|"), QStringLiteral(" "));
 }

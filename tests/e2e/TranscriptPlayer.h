@@ -4,8 +4,6 @@
 #include "tests/e2e/Session.h"
 #include "tests/support/ScreenNotation.h"
 
-#include <memory>
-
 struct TranscriptEntry {
     QString word; ///< "menu", "translations", "tool" or ">"
     QString text; ///< what follows the word
@@ -28,10 +26,9 @@ public:
 private:
     QString setAnswer(const QString &line);
     QString doStep(const QString &action);
-    bool start(bool onDemo, int rows, int columns);
+    bool start(int rows, int columns);
     QStringList takeCalls();
 
     Session session;
     QStringList answers; ///< branches of the tool's `case`, the last one first
-    std::unique_ptr<QTemporaryDir> demo; ///< the state of the demo's device while that is played on
 };
