@@ -73,6 +73,14 @@ public:
             [this](const QByteArray &key) { return PtySession::press(key); });
     }
 
+    /// Waits until the tool was called with these arguments, joined by "|", since the last
+    /// question.
+    bool waitForCall(const QString &call)
+    {
+        QStringList calls;
+        return waitFor([&] { return (calls += device.takeCalls()).contains(call); });
+    }
+
     QString messages() const
     {
         QFile file(messagePath());
