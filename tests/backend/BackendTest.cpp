@@ -29,6 +29,7 @@ private slots:
         row("empty list", "echo []", "[]", false);
         row("no list", "echo true", "[]", false);
         row("no JSON", "echo '[1] x'", "[]", false);
+        row("up to a NUL byte", "printf '[1]\\000x'", "[1]", true);
         row("crash", "echo x >&2; printf [3]; kill -SEGV $$", "[3]", true);
         row("closed output", "echo [5]; exec >&-; sleep 0.1", "[5]", true);
     }
