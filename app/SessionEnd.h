@@ -19,5 +19,5 @@ void endSession() noexcept;
 /// The session has come to its end and is no longer cut off.
 void concludeSession() noexcept;
 
-/// The handler of SIGALRM, which the functions above have sent to the process.
+/// To be called on SIGALRM, which the functions above have sent to the process.
 void watchSession() noexcept;

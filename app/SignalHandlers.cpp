@@ -24,7 +24,7 @@ std::atomic<TerminalGui *> terminalGui(nullptr);
 std::atomic<bool> stopped(false);
 std::atomic<bool> continued(false); // SIGCONT came; nothing has been redrawn since
 
-// A stack overflow is one of the reasons to get here, so these handlers run on their own stack.
+// After an overflow of the stack, the handlers need another one.
 std::array<char, 65536> handlerStack;
 
 // The actions before the console's, under which a fatal signal takes effect.
@@ -41,8 +41,8 @@ private:
     const int kept = errno;
 };
 
-// No SA_RESTART: a blocked read or write must return and notice the end of the session. SIGWINCH,
-// open while the reader waits, must not interrupt another handler with a redraw.
+// No SA_RESTART: a blocked read or write must return and notice the end of the session. SIGWINCH is
+// unblocked while the reader waits; it must not interrupt another handler with a redraw.
 bool setHandler(int number, void (*handler)(int))
 {
     struct sigaction action = {};

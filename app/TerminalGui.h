@@ -13,15 +13,15 @@
 class TerminalGui : public QObject {
     Q_OBJECT
 public:
-    /// Reads the window size and switches the terminal to single keys; draws nothing yet. All
-    /// output goes to `line`, so that keys can also be played without a terminal. `runTool` takes
-    /// the place of running the backend tool.
+    /// Takes over the size of the terminal on standard input and switches it to single keys;
+    /// without a terminal there, the size is 80 x 24. Draws nothing yet; all output goes to `line`.
+    /// `runTool` replaces running the backend tool.
     TerminalGui(const DevicePaths &paths, Line &line, const ToolRunner &runTool = {});
 
     /// Restores the terminal and leaves it cleared.
     ~TerminalGui() override;
 
-    /// Takes over the size of the terminal, 80 x 24 when it does not report it.
+    /// Takes over the size of the terminal, 80 x 24 if it reports none.
     void updateWindowSize();
 
     const ViewState &viewState() const { return state; }
@@ -32,8 +32,7 @@ public:
     /// Switches to the requested view, if any, and draws the current one.
     void refreshView();
 
-    /// Draws everything, and shows or hides the text cursor as before, after another program has
-    /// used the terminal.
+    /// Draws everything after another program has used the terminal.
     void resumeTerminal();
 
 public slots:

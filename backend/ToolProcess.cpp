@@ -46,7 +46,6 @@ struct Pipe {
     int writeEnd = -1;
 };
 
-// File descriptors, session and signals of the program at its start.
 class Surroundings {
 public:
     Surroundings(int input, int output, int errors, const sigset_t &signalMask)
@@ -139,7 +138,7 @@ ToolProcess::ToolProcess(const QString &program, const QStringList &arguments,
     }
     running = error == 0;
     if (running)
-        pidfd = int(syscall(SYS_pidfd_open, child, 0));
+        pidfd = int(syscall(SYS_pidfd_open, child, 0)); // glibc 2.36 declares it for C only
     else
         child = 0;
     toolEnd = { running ? ToolEnd::Exited : ToolEnd::NotStarted, error };

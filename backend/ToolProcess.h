@@ -30,8 +30,8 @@ public:
 
     Q_DISABLE_COPY(ToolProcess)
 
-    /// The process id, which is also that of its group; 0 when the program could not be started.
-    /// No other process gets it before the destructor returns.
+    /// The process id, which is also that of its group; 0 when the program could not be started. It
+    /// stays reserved until the destructor reaps the process, unless SIGCHLD is ignored.
     pid_t pid() const { return child; }
 
     /// False when the program could not be started or `wait` has noticed its end.

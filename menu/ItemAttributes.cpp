@@ -105,8 +105,6 @@ bool TreeViewItemHandler::isEditable(const TreeViewItem &item) const
         || kind == SliderInput;
 }
 
-// A screen with a type is for browsers only, unless its own "remote" or that of its reference says
-// otherwise. Screens of compartments and meters, and what has no type, are for the console, too.
 bool TreeViewItemHandler::isVisible(const TreeViewItem &item) const
 {
     const QScriptValue remote = item.definition.property(propertyNames.remote);

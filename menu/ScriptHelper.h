@@ -24,7 +24,7 @@ public:
     /// `runTool` takes the place of running the tool at its path.
     explicit ScriptHelper(const DevicePaths &paths, ToolRunner runTool = {});
 
-    /// The text of the settings script; empty when the file cannot be read.
+    /// Empty when the file cannot be read.
     QString settingsScript() const;
 
     /// Evaluates the settings script and returns the `settings` member of its global `Settings`.
@@ -40,8 +40,8 @@ public:
 
     /// \name Calls of the tool (bodies in backend/BackendCalls.cpp)
     /// @{
-    /// Runs the backend tool with `arguments` and returns what it printed on standard output. A
-    /// tool that is missing, crashes or hangs shows only as missing output.
+    /// What the tool prints on standard output. That it is missing, crashes or hangs shows only as
+    /// missing output.
     QByteArray run(const QStringList &arguments) const;
 
     /// The list that the tool prints for `arguments`, empty when it fails. Unless `force` is set,

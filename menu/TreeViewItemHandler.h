@@ -46,23 +46,28 @@ public:
     /// \name Attributes, read from the item's definition (bodies in menu/ItemAttributes.cpp)
     /// A missing attribute reads as 0, false or an empty text. Positions in lists count from 0.
     /// @{
+    /// The item's own "i18n", else that of the reference to it, else "meter" or "compartment" for a
+    /// css that ends with "ModifyDo" or "Show", else its css.
     QString labelKey(const TreeViewItem &item) const;
-    /// The words that read the values of the item's children; nothing when it has none.
+    /// The words that read and write the values of the item's children, if it has such words.
     std::optional<QString> readBinding(const TreeViewItem &item) const;
-    /// The words that write the values of the item's children; nothing when it has none.
     std::optional<QString> writeBinding(const TreeViewItem &item) const;
     InputKind inputKind(const TreeViewItem &item) const;
     TypeKind typeKind(const TreeViewItem &item) const;
     /// The diagnose screen that the item opens, NoInterface when it opens none.
     InterfaceKind diagnoseScreen(const TreeViewItem &item) const;
+    /// True for a dropdown, edit, boolean or slider without children, unless its "remote" is 2 or
+    /// its "accessLvl" above the present one.
     bool isEditable(const TreeViewItem &item) const;
+    /// False for "remote" 0, for what is excluded, and for a screen with a "type" but no "remote",
+    /// unless the reference to it has a "remote" other than 0 or is a compartment or meter button.
     bool isVisible(const TreeViewItem &item) const;
+    /// True for screens that are not for the console: "TODO" in the css, and loading plans.
     bool isExcluded(const TreeViewItem &item) const;
     bool isInteger(const TreeViewItem &item) const;
     int minimum(const TreeViewItem &item) const;
     int maximum(const TreeViewItem &item) const;
     int step(const TreeViewItem &item) const;
-    /// The number of "values".
     int valueCount(const TreeViewItem &item) const;
     /// The entry of "values" at `i`; an empty text when there is none.
     QVariant valueAt(const TreeViewItem &item, int i) const;
@@ -78,22 +83,20 @@ public:
 
     /// \name Values in the backend (bodies in backend/MenuValueQueries.cpp)
     /// @{
-    /// The tool's arguments: to ask for the seal's state, for the interfaces of `kind` (`tagNumber`
-    /// counts for TAG only), and for the values of the children; none where there is nothing to
-    /// ask.
+    /// The tool's arguments for each query, none where there is nothing to ask; `tagNumber` is used
+    /// for TAG only.
     static QStringList sealQuery();
     static QStringList listQuery(InterfaceKind kind, int tagNumber);
     QStringList readArguments(const TreeViewItem &item) const;
 
-    /// Asks for the seal's state and sets the access level by it: 6 while the seal is open, else 4.
+    /// Sets the access level to 6 while the electronic seal is open, to 4 otherwise.
     void updateAccessLevel();
 
     /// Updates the access level and reads the values of every open item below `root` anew, but for
     /// the item that was opened since the last refresh.
     void refreshValues(TreeViewItem &root);
 
-    /// What the backend reports of the interfaces of `kind`; only TAG uses `tagNumber`. Empty,
-    /// without running the tool, for an unknown kind.
+    /// The state of the interfaces of `kind`; empty, without running the tool, for an unknown kind.
     QVariantList interfaceList(InterfaceKind kind, int tagNumber);
 
     /// Switches the interfaces of `kind` on or off. True whatever the tool answers; false, without
@@ -112,11 +115,9 @@ public:
     /// True for what has a place in the backend's lists of values: all but separators and buttons.
     bool isValueBearing(const TreeViewItem &item) const;
 
-    /// The values of the group's value-bearing children, in their order.
+    /// Both go by the order of the group's value-bearing children; those beyond the last value keep
+    /// theirs.
     QVariantList collectItemValues(const TreeViewItem &group) const;
-
-    /// Gives the group's value-bearing children `values`, in their order; children beyond the last
-    /// value keep theirs.
     void assignItemValues(TreeViewItem &group, const QVariantList &values) const;
     /// @}
 
