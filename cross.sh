@@ -53,8 +53,9 @@ echo "== tests"
 # permits it, the tests run in a PID namespace of their own.
 isolated=(unshare --user --map-root-user --pid --fork --kill-child --mount-proc)
 "${isolated[@]}" true 2>/dev/null || isolated=()
-DRAVIKON_TEST_SLOWDOWN=${DRAVIKON_TEST_SLOWDOWN:-10} \
-    "${isolated[@]}" ctest --preset "$arch"
+export DRAVIKON_TEST_SLOWDOWN=${DRAVIKON_TEST_SLOWDOWN:-10}
+export QTEST_FUNCTION_TIMEOUT=$((300000 * DRAVIKON_TEST_SLOWDOWN))
+"${isolated[@]}" ctest --preset "$arch" --timeout $((300 * DRAVIKON_TEST_SLOWDOWN))
 
 if [[ $package == yes ]]; then
     echo "== package"

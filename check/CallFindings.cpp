@@ -5,8 +5,6 @@
 
 namespace {
 
-constexpr int slowMs = 1000;
-
 QString durationText(qint64 ms)
 {
     return QString::number(double(ms) / 1000, 'f', 1);
@@ -70,7 +68,7 @@ Findings runFindings(const ToolCalls &calls, const QStringList &arguments)
             "<%1> did not end within %2 s and was killed; what it printed until then is its answer",
             words, durationText(calls.patienceMs)) };
     }
-    if (call.durationMs > slowMs) {
+    if (call.durationMs > calls.slowMs) {
         return { warning("slow-call",
             "<%1> took %2 s, and the console waits for it; answer within a few ten milliseconds",
             words, durationText(call.durationMs)) };

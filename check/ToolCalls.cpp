@@ -6,9 +6,10 @@
 
 #include <cstring>
 
-ToolCalls::ToolCalls(QString tool, Progress progress, int patienceMs)
+ToolCalls::ToolCalls(QString tool, Progress progress, int patienceMs, int slowMs)
     : tool(std::move(tool))
     , patienceMs(patienceMs)
+    , slowMs(slowMs)
     , progress(std::move(progress))
     , toolFault(::toolFault(this->tool))
 {

@@ -18,9 +18,10 @@ public:
     /// Called before a run: its number from 1, and the arguments.
     using Progress = std::function<void(int number, const QStringList &arguments)>;
 
-    /// A tool that still runs after `patienceMs` is killed.
-    explicit ToolCalls(
-        QString tool, Progress progress = {}, int patienceMs = BackendTool::patienceMs);
+    /// A tool that still runs after `patienceMs` is killed; a run that takes longer than `slowMs`
+    /// is slow.
+    explicit ToolCalls(QString tool, Progress progress = {},
+        int patienceMs = BackendTool::patienceMs, int slowMs = 1000);
 
     /// From now on no call is made for which `mayWrite` is true.
     void withhold(std::function<bool(const QStringList &)> mayWrite);
@@ -38,6 +39,7 @@ public:
 
     const QString tool;
     const int patienceMs;
+    const int slowMs;
     CallTrace trace; ///< receives the runs once it is open
 
 private:

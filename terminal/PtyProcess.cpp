@@ -26,6 +26,16 @@ QByteArray readProc(pid_t process, const char *name)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+// Files that a kernel need not have, and without which a busy process would look at rest.
+bool canObserveProcesses()
+{
+    for (const char *const name : { "stat", "schedstat" }) {
+        if (readProc(getpid(), name).isEmpty())
+            return false;
+    }
+    return QFile::exists(QStringLiteral("/proc/%1/task/%1/children").arg(getpid()));
+}
+
 bool isSleeping(pid_t process)
 {
     const QByteArray text = readProc(process, "stat");
@@ -60,6 +70,9 @@ PtyProcess::~PtyProcess()
 
 bool PtyProcess::start(const QString &program, const QStringList &arguments, int rows, int columns)
 {
+    static const bool canObserve = canObserveProcesses();
+    if (!canObserve)
+        qFatal("/proc lacks stat, schedstat or children, which tell when a program is at rest");
     if (child > 0 || openpty(&master, &slave, nullptr, nullptr, nullptr) != 0)
         return false;
     fcntl(master, F_SETFD, FD_CLOEXEC);

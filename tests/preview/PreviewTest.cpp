@@ -383,7 +383,7 @@ private slots:
         else
             QVERIFY(session.waitFor(end)); // the end of the session can take the first Ctrl-C
         QTEST(session.waitForExit(), "end");
-        QTRY_VERIFY(directory.isEmpty());
+        QVERIFY(session.waitFor([&] { return directory.isEmpty(); }));
     }
 
     void reportsProblemsAfterTheSession()

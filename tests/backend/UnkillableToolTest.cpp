@@ -1,0 +1,58 @@
+// A tool that runs as another user, here by its set-uid bit, cannot be killed.
+#include "backend/BackendTool.h"
+#include "terminal/PtySession.h"
+
+#include <QtTest>
+
+#include <cstdlib>
+
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+enum Outcome { GivenUp, NotGivenUp, NoEffect };
+
+/// Runs a copy of setpriv that belongs to root and has its set-uid bit, as nobody.
+Outcome runAsNobody(const QString &setpriv)
+{
+    constexpr uid_t nobody = 65534;
+    const QString asRoot = setpriv + QStringLiteral(" --reuid=0 true 2>/dev/null");
+    if (setuid(nobody) != 0 || std::system(qPrintable(asRoot)) != 0)
+        return NoEffect;
+    const QByteArray answer = BackendTool::run(setpriv,
+        { QStringLiteral("--reuid=0"), QStringLiteral("sh"), QStringLiteral("-c"),
+            QStringLiteral("echo $(id -ru); sleep 30") },
+        int(PtySession::scaled(2000)));
+    return answer == "0\n" ? GivenUp : NotGivenUp;
+}
+
+} // namespace
+
+class UnkillableToolTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void isGivenUp()
+    {
+        QTemporaryDir directory;
+        const QString tool = directory.filePath(QStringLiteral("setpriv"));
+        QVERIFY(QFile::copy(QStringLiteral("/usr/bin/setpriv"), tool));
+        QCOMPARE(chmod(QFile::encodeName(directory.path()).constData(), 0755), 0);
+        QCOMPARE(chmod(QFile::encodeName(tool).constData(), 04755), 0);
+        const pid_t console = fork();
+        if (console == 0)
+            _exit(runAsNobody(tool));
+        int status = -1;
+        QTRY_VERIFY_WITH_TIMEOUT(status >= 0 || waitpid(console, &status, WNOHANG) == console,
+            PtySession::scaled(15000));
+        QVERIFY(WIFEXITED(status));
+        if (WEXITSTATUS(status) == NoEffect)
+            QSKIP("a set-uid bit has no effect here: not run as root, or on such a file system");
+        QCOMPARE(WEXITSTATUS(status), int(GivenUp));
+    }
+};
+
+QTEST_GUILESS_MAIN(UnkillableToolTest)
+#include "UnkillableToolTest.moc"
