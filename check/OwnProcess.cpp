@@ -7,6 +7,12 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+namespace {
+
+constexpr unsigned patienceSeconds = 30;
+
+} // namespace
+
 bool WorkEnd::hasCrashed() const
 {
     return signal > 0 && signal != SIGINT && signal != SIGTERM && signal != SIGHUP
@@ -21,6 +27,8 @@ WorkEnd doInOwnProcess(const std::function<int()> &work)
     if (child == 0) {
         std::signal(SIGTERM, SIG_DFL);
         prctl(PR_SET_PDEATHSIG, SIGTERM);
+        std::signal(SIGALRM, SIG_DFL);
+        alarm(patienceSeconds);
         _exit(getppid() == parent ? work() : 0);
     }
     int end = 0;
@@ -30,8 +38,20 @@ WorkEnd doInOwnProcess(const std::function<int()> &work)
     return WIFEXITED(end) ? WorkEnd { WEXITSTATUS(end), 0 } : WorkEnd { -1, WTERMSIG(end) };
 }
 
+void takeTime()
+{
+    alarm(0);
+}
+
 QString crashText(const QString &path, const WorkEnd &end)
 {
+    if (end.signal == SIGALRM) {
+        return QStringLiteral(
+            "the script %1 did not end within %2 s; the console would wait for it "
+            "without end, so correct its loops")
+            .arg(path)
+            .arg(patienceSeconds);
+    }
     return QStringLiteral("the script engine crashes (signal %1) on %2, and the console with it; "
                           "avoid endless recursion and deep nesting in the script")
         .arg(QString::number(end.signal), path);

@@ -14,8 +14,12 @@ struct WorkEnd {
     bool hasCrashed() const;
 };
 
-/// Does `work` in a child process and waits for it. The child gets SIGTERM when this process ends.
+/// Does `work` in a child process and waits for it. The child gets SIGTERM when this process ends,
+/// and SIGALRM after half a minute unless it calls `takeTime`.
 WorkEnd doInOwnProcess(const std::function<int()> &work);
 
-/// What to report when the work with the settings script at `path` has crashed.
+/// Allows the work in this process to take longer, when it no longer depends on the script alone.
+void takeTime();
+
+/// What to report when the work with the settings script at `path` has crashed or did not end.
 QString crashText(const QString &path, const WorkEnd &end);

@@ -22,13 +22,28 @@ const QString description = QStringLiteral(
     "Reports what is wrong with the menu definition of a truck controller's web "
     "interface,\none problem a line. Only --device runs the backend tool, and it writes "
     "nothing.\n\n"
-    "Exit status: 0 no problem, 1 problems, 2 wrong usage or files that cannot be "
-    "loaded,\n3 the script engine crashed on the definition.");
+    "Exit status: 0 no problem, 1 problems, 2 wrong usage or a script that cannot be "
+    "read,\n3 the script engine crashed on the definition, or its script did not end.");
 
 void print(std::FILE *file, const QStringList &lines)
 {
     for (const QString &line : lines)
         print(file, line);
+}
+
+void read(LoadedMenu &menu, ToolCalls &calls, DeviceExtent extent)
+{
+    takeTime();
+    killToolOnInterruption();
+    readDevice(menu, calls, extent);
+    showProgress({});
+}
+
+// Without the table the menu has keys instead of labels.
+void printTableFault(const QString &table)
+{
+    for (const Finding &finding : tableFindings(table))
+        print(stderr, table + QStringLiteral(": ") + finding.text);
 }
 
 CheckStatus printMenu(LoadedMenu &menu)
@@ -40,8 +55,7 @@ CheckStatus printMenu(LoadedMenu &menu)
 // Values that are missing are an error, as the printed menu is made to be compared with another.
 CheckStatus printDeviceMenu(LoadedMenu &menu, ToolCalls &calls)
 {
-    readDevice(menu, calls, DeviceExtent::Values);
-    showProgress({});
+    read(menu, calls, DeviceExtent::Values);
     print(stdout, menuOutline(menu));
     const QStringList failed = failedCalls(calls);
     print(stderr, failed);
@@ -57,8 +71,7 @@ CheckStatus reportMenu(LoadedMenu &menu)
 
 CheckStatus reportDevice(LoadedMenu &menu, ToolCalls &calls)
 {
-    readDevice(menu, calls, DeviceExtent::Everything);
-    showProgress({});
+    read(menu, calls, DeviceExtent::Everything);
     const QStringList problems = deviceProblems(menu, calls);
     print(stdout, problems);
     print(stderr, callSummary(calls));
@@ -80,12 +93,10 @@ int check(const DevicePaths &paths, bool wantsDevice, bool wantsTree, const QStr
     LoadedMenu menu(paths, [&calls](const QStringList &arguments) { return calls.run(arguments); });
     if (menu.root->children.empty())
         return reportMenu(menu);
-    if (wantsTree && !wantsDevice)
-        return printMenu(menu);
-    if (wantsDevice)
-        killToolOnInterruption();
-    if (wantsTree)
-        return printDeviceMenu(menu, calls);
+    if (wantsTree) {
+        printTableFault(translationTable(paths.webRoot));
+        return wantsDevice ? printDeviceMenu(menu, calls) : printMenu(menu);
+    }
     const CheckStatus ofMenu = reportMenu(menu);
     return wantsDevice ? qMax(ofMenu, reportDevice(menu, calls)) : ofMenu;
 }

@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# Plays random sessions and runs the fuzz target with ASan and UBSan, and ends sessions at the
-# moment when they start a tool, hundreds of times for each way to end.
-# Usage: tests/soak.sh [SESSIONS [KEYS [RUNS [SEED]]]]
+# Plays random sessions and runs the fuzz target with ASan and UBSan, ends sessions at the moment when
+# they start a tool, hundreds of times for each way to end, and checks damaged definitions.
+# Usage: tests/soak.sh [SESSIONS [KEYS [RUNS [SEED [DAMAGES]]]]]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 sessions=${1:-200} keys=${2:-1000} runs=${3:-10000000} seed=${4:-$RANDOM}
+damages=${5:-10000}
 
 cmake/install-missing.sh g++ clang cmake ninja-build pkg-config \
     qtbase5-dev qtscript5-dev rapidjson-dev libvterm-dev
@@ -18,6 +19,7 @@ done
 DRAVIKON_TEST_SESSIONS=$sessions DRAVIKON_TEST_KEYS=$keys DRAVIKON_TEST_SEED=$seed \
     build/asan/tests/random-sessions
 DRAVIKON_TEST_ENDINGS=$((2 * sessions)) build/dev/tests/ending-test toolIsStarting
+DRAVIKON_TEST_DAMAGES=$damages DRAVIKON_TEST_SEED=$seed build/dev/tests/damaged-files -silent
 findings=build/fuzz/tests/fuzz/codec-findings
 build/fuzz/tests/fuzz/codec-fuzz -seed="$seed" -runs="$runs" -print_final_stats=1 \
     -artifact_prefix="$findings/" "$findings" tests/corpus/codec 2>&1 |

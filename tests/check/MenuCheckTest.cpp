@@ -1,6 +1,7 @@
 #include "check/MenuCheck.h"
 #include "check/DeviceCheck.h"
 #include "check/FindingNames.h"
+#include "check/OwnProcess.h"
 #include "check/ToolFault.h"
 #include "locale/CTranslationHandler.h"
 #include "preview/SimulatedDevice.h"
@@ -11,6 +12,8 @@
 #include <QProcess>
 
 #include <csignal>
+
+#include <unistd.h>
 
 static const char translations[] = R"({"start": "Start", "page": "Page", "other": "Other",
     "third": "Third", "field": "Field", "off": "Off", "on": "On", "tanks": "Tanks",
@@ -67,6 +70,7 @@ class MenuCheckTest : public QObject {
         // A sanitizer would report a crash of the engine by itself.
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("handle_segv=0"));
+        environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
         checker.setProcessEnvironment(environment);
         checker.start(QStringLiteral(CHECKER), arguments);
         checker.waitForFinished(int(PtySession::scaled(30000)));
@@ -331,9 +335,12 @@ private slots:
     void printsForeignTextWithoutControls()
     {
         device.setTranslations("{\"field\": \"x\\u001b[2J\\u009b\"}");
-        device.setScreens("[{css: 'r', screens: [{css: 'a'}]}, {css: 'a', 'ajax-read': '\\x1b[3m',"
-                          " screens: [{i18n: 'field'}]}]");
-        device.setTool("printf '\\033[1m'");
+        device.setScreens("[{css: 'start', screens: [{css: 'page'}, {css: spd, type: 'status'}]},"
+                          " {css: 'page', 'ajax-read': '\x1b[3m', screens: [{i18n: 'field',"
+                          " inputType: 'selectlabel', values: ['\x1b[4m'] }]},"
+                          " {css: spd, type: 'status', remote: 1}]",
+            "var spd = 'btnServiceDiagnoseSpdInterfaces\x1b[5m';");
+        device.setTool("printf '\\033[1m'; printf '\\033[6m' >&2");
         for (const QStringList &mode :
             { QStringList(), { tree }, { ask, tool() }, { ask, tree, tool() } }) {
             const Run made = run(QStringList(root()) + mode);
@@ -342,6 +349,29 @@ private slots:
             QVERIFY2(!printed.contains(QRegularExpression(QStringLiteral("[\\x{1b}\\x{9b}]"))),
                 qPrintable(printed));
         }
+    }
+
+    void printsTextsBeyondAscii()
+    {
+        device.setTranslations("{\"field\": \"\xc3\x96l\"}");
+        device.setScreens("[{css: 'start', screens: [{css: 'page', i18n: '\xc3\x84'}]},"
+                          " {css: 'page', 'ajax-read': 'read', screens: [{i18n: 'field'}]}]");
+        QCOMPARE(run({ root(), tree }).output, QString::fromUtf8("->  Ä\n +   -  Öl\n"));
+    }
+
+    void limitsTheTimeOfScripts()
+    {
+        // How many seconds the work has at its start.
+        QCOMPARE(doInOwnProcess([] { return int(alarm(0)); }).status, 30);
+        const auto unlimited = [] {
+            takeTime();
+            return int(alarm(0));
+        };
+        QCOMPARE(doInOwnProcess(unlimited).status, 0);
+        const WorkEnd end = doInOwnProcess([] { return std::raise(SIGALRM); });
+        QVERIFY(end.hasCrashed());
+        QVERIFY(crashText(QStringLiteral("settings.js"), end)
+                    .startsWith(QLatin1String("the script settings.js did not end within 30 s")));
     }
 
     void reportsCrashesOfTheEngine_data()
