@@ -7,8 +7,8 @@ namespace {
 // A visible field with a value. References have values, too, but seldom use them.
 bool showsValue(const TreeViewItemHandler &handler, const TreeViewItem &child)
 {
-    return !child.referringEntry.isValid() && handler.isVisible(child)
-        && handler.isValueBearing(child);
+    return child.definition.isObject() && !child.referringEntry.isValid()
+        && handler.isVisible(child) && handler.isValueBearing(child);
 }
 
 Findings readFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)

@@ -33,6 +33,13 @@ QString endText(const ToolCall &call)
     return texts.join(QLatin1String(", "));
 }
 
+// For the end of a report.
+QString andEnd(const ToolCall &call)
+{
+    const QString end = endText(call);
+    return end.isEmpty() ? end : QLatin1String("; ") + end;
+}
+
 QString whyNoArray(const QStringList &arguments, const ToolCall &call)
 {
     QStringList texts;
@@ -48,9 +55,7 @@ QString whyNoArray(const QStringList &arguments, const ToolCall &call)
             + excerpt(call.output);
     if (arguments.size() == 1 && arguments.first().contains(QLatin1Char(' ')))
         texts += QStringLiteral("for this number all words come as one argument");
-    texts += endText(call);
-    texts.removeAll({});
-    return texts.join(QLatin1String("; "));
+    return texts.join(QLatin1String("; ")) + andEnd(call);
 }
 
 // What concerns any call, also one that answers in plain text.
@@ -65,8 +70,9 @@ Findings runFindings(const ToolCalls &calls, const QStringList &arguments)
     }
     if (call.end.kind == ToolEnd::TimedOut) {
         return { error("hanging-call",
-            "<%1> did not end within %2 s and was killed; what it printed until then is its answer",
-            words, durationText(calls.patienceMs)) };
+            "<%1> did not end within %2 s and was killed; what it printed until then is its "
+            "answer%3",
+            words, durationText(calls.patienceMs), andEnd(call)) };
     }
     if (call.durationMs > calls.slowMs) {
         return { warning("slow-call",
@@ -116,10 +122,9 @@ Findings versionFindings(const ToolCalls &calls, const QStringList &arguments)
     const ToolCall &call = *calls.find(arguments);
     if (!call.output.split('/').first().trimmed().isEmpty())
         return findings + badEndFindings(arguments, call);
-    const QString end = endText(call);
     return findings
         + Findings { warning("no-tool-version",
             "<%1> printed no text before the first \"/\", so the bottom row shows no version; "
             "print one%2",
-            shownCall(arguments), end.isEmpty() ? end : QLatin1String("; ") + end) };
+            shownCall(arguments), andEnd(call)) };
 }

@@ -7,14 +7,12 @@
 
 #include <QScriptValueIterator>
 
-#include <cmath>
-
 namespace {
 
 bool isCount(const QVariant &value)
 {
     const double number = value.toDouble();
-    return isNumber(value) && number >= 0 && number <= 999 && std::trunc(number) == number;
+    return isNumber(value) && number >= 0 && number <= 999 && isWhole(number);
 }
 
 bool hasValuesUpTo(int place, const LoadedMenu &menu, const QScriptValue &screen)

@@ -6,7 +6,6 @@
 #include "render/InputValidation.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -72,8 +71,7 @@ Findings rangeFindings(const TreeViewItemHandler &handler, const TreeViewItem &i
             "%2 to %3; write them as [0, 500]",
             range.toString(), rangeValue(handler, item, 0), rangeValue(handler, item, 1)) };
     }
-    if (std::trunc(lowest.toNumber()) == lowest.toNumber()
-        && std::trunc(highest.toNumber()) == highest.toNumber())
+    if (isWhole(lowest.toNumber()) && isWhole(highest.toNumber()))
         return {};
     return { warning("range",
         "the fractions in its \"range\" %1 are cut off; write whole numbers, in a smaller unit if "

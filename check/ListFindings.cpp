@@ -64,8 +64,7 @@ Findings integerFindings(const TreeViewItemHandler &handler, const TreeViewItem 
         if (shown != option) {
             return { warning("integer-list",
                 "with \"integer\" the menu shows the value \"%1\" instead of its text \"%2\"; "
-                "remove "
-                "\"integer\"",
+                "remove \"integer\"",
                 shown, option) };
         }
     }

@@ -1,5 +1,7 @@
 #include "check/OwnProcess.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
 
@@ -15,8 +17,8 @@ constexpr unsigned patienceSeconds = 30;
 
 bool WorkEnd::hasCrashed() const
 {
-    return signal > 0 && signal != SIGINT && signal != SIGTERM && signal != SIGHUP
-        && signal != SIGQUIT;
+    constexpr std::array<int, 6> crashes = { SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT, SIGALRM };
+    return std::find(crashes.cbegin(), crashes.cend(), signal) != crashes.cend();
 }
 
 WorkEnd doInOwnProcess(const std::function<int()> &work)

@@ -10,7 +10,7 @@ struct WorkEnd {
     int status = -1; ///< what the work returned, from 0 to 255; -1 when a signal ended it
     int signal = 0; ///< that signal; 0 also when there could be no process
 
-    /// True when a signal ended the work that nobody sends to interrupt a program.
+    /// True when a fault of the work ended it, or its time was over.
     bool hasCrashed() const;
 };
 

@@ -3,8 +3,6 @@
 #include "check/Answer.h"
 #include "check/Numbers.h"
 
-#include <cmath>
-
 namespace {
 
 Findings numberFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
@@ -20,7 +18,7 @@ Findings numberFindings(const TreeViewItemHandler &handler, const TreeViewItem &
             findings << error("slider-number",
                 "its \"%1\" is \"%2\" and counts as 0; write a whole number", name.toString(),
                 number.toString());
-        } else if (std::trunc(number.toNumber()) != number.toNumber()) {
+        } else if (!isWhole(number.toNumber())) {
             findings << warning("slider-number",
                 "its \"%1\" %2 is cut to a whole number; write one, in a smaller unit if needed",
                 name.toString(), number.toString());
