@@ -46,10 +46,12 @@ private slots:
         const DevicePaths paths;
         const QByteArray patience = QByteArray::number(BackendTool::patienceMs / 1000);
         const QByteArray idleMs = QByteArray::number(SessionOptions().idleMs);
-        row("menu definition", "dravikon.1", ".It Pa " + paths.settingsScript.toUtf8());
+        row("menu definition", "dravikon.1",
+            ".It Pa " + paths.settingsScript.toUtf8() + " the menu definition");
         row("English texts", "dravikon.1",
-            ".It Pa " + paths.webRoot.toUtf8() + "/locales/en/translation.json");
-        row("backend tool", "dravikon.1", ".It Pa " + paths.backendTool.toUtf8());
+            ".It Pa " + paths.webRoot.toUtf8() + "/locales/en/translation.json the English texts");
+        row("backend tool", "dravikon.1",
+            ".It Pa " + paths.backendTool.toUtf8() + " the backend tool");
         row("patience with the tool", "dravikon.1",
             "a tool that takes longer than " + patience + " seconds is killed");
         row("idle time", "dravikon-preview.1",
