@@ -13,8 +13,8 @@ work=$(mktemp -d "$sysroot.XXXXXX")
 trap 'rm -rf "$work"' EXIT
 mkdir "$work/root"
 
-# The board's packages are unpacked without running anything of them. The .deb files are kept until
-# the end, for the information about their libraries.
+# Unpacks the board's packages without running their scripts. The .deb files are needed below, for
+# the information about their libraries.
 mmdebstrap --quiet --architectures="$arch" --variant=extract --skip=cleanup/apt \
     --include=libc6-dev,libstdc++-12-dev,libvterm-dev,qtbase5-dev,qtscript5-dev,rapidjson-dev \
     "$release" - "$source" \

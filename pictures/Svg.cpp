@@ -128,7 +128,7 @@ QByteArray SvgFilm::svg() const
                                          "#film{animation:none}}\n</style>\n")
                               .arg(jumps)
                               .arg(total);
-    // The inner picture cuts off what of the strip is not to be seen.
+    // The inner picture clips the strip to one screen.
     return pictureOf(size,
         style
             + QStringLiteral("<svg width=\"100%\" height=\"100%\">\n"

@@ -11,8 +11,8 @@ namespace {
 struct Picture {
     const char *name;
     const char *path; ///< labels of what is opened, from the top of the menu down
-    const char *keys; ///< what is pressed then, as `keysFromText` takes it
-    const char *awaited; ///< a text that is on the screen when all is drawn
+    const char *keys; ///< keys pressed after that, in the notation of `keysFromText`
+    const char *awaited; ///< a text that is on the screen once it is complete
 };
 
 constexpr Picture pictures[] = {
@@ -22,11 +22,11 @@ constexpr Picture pictures[] = {
     { "spd", "Service/Diagnose/SPD", "", "SPD IF: 1/4" },
 };
 
-/// What is done in the film, and how long it is seen.
+/// A part of the film: keys, and how long the screen after each is shown.
 struct Scene {
-    const char *keys; ///< as `keysFromText` takes them
-    int keyMs; ///< the time of each key but the last
-    int lastMs; ///< the time of the last key
+    const char *keys; ///< in the notation of `keysFromText`
+    int keyMs; ///< after each key but the last
+    int lastMs; ///< after the last key
 };
 
 constexpr Scene scenes[] = {

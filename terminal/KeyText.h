@@ -9,7 +9,7 @@
 /// The text with each "\xHH" replaced by the character with that hexadecimal code.
 QString withCharacterCodes(QString text);
 
-/// The bytes of each key of `text`, in order: names of keys, with "*" and a number to repeat one,
-/// and texts in quotes, with character codes, of which each Latin-1 character is a key. Nothing
-/// when a word is no key.
+/// The bytes of each key of `text`, in order. A word is the name of a key, with "*" and a number to
+/// repeat it, or a text in quotes, with character codes: one key per Latin-1 character. Nothing if
+/// a word is neither.
 std::optional<QByteArrayList> keysFromText(const QString &text);

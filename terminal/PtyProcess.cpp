@@ -97,7 +97,7 @@ bool PtyProcess::start(const QString &program, const QStringList &arguments, int
             STDERR_FILENO);
         // The type whose keys send the sequences of terminal/Keys.h.
         setenv("TERM", "linux", true);
-        // Ignored in jobs that a script started in the background, but not in a login.
+        // A script ignores these in its background jobs, a login shell does not.
         ::signal(SIGINT, SIG_DFL);
         ::signal(SIGQUIT, SIG_DFL);
         execvp(argv.first(), argv.data());
@@ -122,14 +122,14 @@ QByteArray PtyProcess::read(int timeoutMs, int limit)
 
 bool PtyProcess::isWaiting()
 {
-    // Output last: a process that sleeps because the terminal is full has left some.
+    // Output is checked last: a process that sleeps because the terminal is full has left some.
     const bool isDone = !isReadable(slave, 0) && isSleeping(child);
     return (isDone || status().state != ExitStatus::Running) && !isReadable(master, 0);
 }
 
 bool PtyProcess::isAtRest()
 {
-    // Unchanged scheduling statistics: it did not run between the questions.
+    // Unchanged scheduling statistics: the process did not run between the two checks.
     const QByteArray before = readProc(child, "schedstat");
     return isWaiting() && !hasChildren(child) && readProc(child, "schedstat") == before;
 }

@@ -15,7 +15,7 @@ bool PtySession::press(const QByteArray &key)
 
 bool PtySession::waitForRest()
 {
-    // Twice, because between two child processes it can sleep for a moment, too.
+    // Checked twice: the process can also sleep for a moment between two child processes.
     constexpr int pauseMs = 5;
     return waitFor([this] { return isAtRest() && !takeOutput(pauseMs) && isAtRest(); });
 }

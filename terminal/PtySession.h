@@ -11,14 +11,14 @@ public:
     bool start(const QString &program, const QStringList &arguments, int rows, int columns);
 
     /// Sends the bytes of one key and waits until the process has read them and sleeps again, for
-    /// the next key or for a child process; takes the output. False after the time limit. Of use
-    /// once canonical mode is off.
+    /// the next key or for a child process; takes the output. False after the time limit. The
+    /// process must have switched canonical mode off.
     bool press(const QByteArray &key);
     /// Waits until the process is at rest and takes the output. False after the time limit.
     bool waitForRest();
     void resize(int rows, int columns);
 
-    /// Takes output until the condition holds; false when it does not within the time limit in
+    /// Takes output until the condition holds; false if it does not within the time limit in
     /// milliseconds. DRAVIKON_TEST_SLOWDOWN in the environment multiplies every limit.
     bool waitFor(const std::function<bool()> &condition, int timeoutMs = 10000);
     /// A time limit in milliseconds, multiplied by DRAVIKON_TEST_SLOWDOWN.

@@ -19,7 +19,7 @@ public:
 
     /// Takes output in Latin-1, in pieces of any size.
     void feed(const QByteArray &bytes);
-    /// Changes the size and keeps what still fits; the program has written none of that.
+    /// Changes the size and keeps what still fits, which does not count as written.
     void resize(int rows, int columns);
 
     /// Text of a 0-based row without its trailing blanks; empty outside the screen.
