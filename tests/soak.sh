@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Plays random sessions and runs the fuzz target with ASan and UBSan, ends sessions at the moment when
-# they start a tool, hundreds of times for each way to end, and checks damaged definitions.
+# Plays random sessions, also on damaged states of the simulated device, and runs the fuzz target,
+# all with ASan and UBSan. Ends sessions at the moment when they start a tool, hundreds of times for
+# each way to end, and checks damaged definitions.
 # Usage: tests/soak.sh [SESSIONS [KEYS [RUNS [SEED [DAMAGES]]]]]
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -18,6 +19,7 @@ for preset in asan fuzz dev; do
 done
 DRAVIKON_TEST_SESSIONS=$sessions DRAVIKON_TEST_KEYS=$keys DRAVIKON_TEST_SEED=$seed \
     build/asan/tests/random-sessions
+DRAVIKON_TEST_STATES=$((50 * sessions)) DRAVIKON_TEST_SEED=$seed build/asan/tests/odd-states
 DRAVIKON_TEST_ENDINGS=$((2 * sessions)) build/dev/tests/ending-test toolIsStarting
 DRAVIKON_TEST_DAMAGES=$damages DRAVIKON_TEST_SEED=$seed build/dev/tests/damaged-files -silent
 findings=build/fuzz/tests/fuzz/codec-findings

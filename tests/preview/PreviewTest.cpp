@@ -306,6 +306,74 @@ private slots:
         }
     }
 
+    void refusesWrongUsage_data()
+    {
+        const Rows<QString, QString> row("options", "message");
+        row("unknown option", "--x", "Unknown option 'x'.");
+        row("word", "x", "unexpected x");
+        row("too many compartments", "--compartments 1000",
+            "--compartments takes a number from 0 to 999");
+        row("no number", "--meters x", "--meters takes a number from 0 to 999");
+        row("negative number", "--meters=-1", "--meters takes a number from 0 to 999");
+        row("no idle time", "--idle 0", "--idle takes a number from 1 to 2147483647");
+        row("other seal", "--seal broken", "--seal is open or closed");
+        row("empty path", "--web-root ''", "--web-root takes a path");
+        row("tool that is no file", "--tool /",
+            "/ cannot be started: it is no file; correct its path");
+        row("trace in a file", "--trace /dev/null/x", "cannot write /dev/null/x: Not a directory");
+    }
+
+    void refusesWrongUsage()
+    {
+        QFETCH(QString, options);
+        QFETCH(QString, message);
+        const ProgramResult result = runProgram(QStringLiteral("/bin/sh"),
+            { QStringLiteral("-c"), QStringLiteral("exec %1 %2 2>&1").arg(program, options) });
+        QCOMPARE(result.end, (ExitStatus { ExitStatus::Exited, 2 }));
+        QCOMPARE(result.output, QStringLiteral("dravikon-preview: %1\n").arg(message).toUtf8());
+    }
+
+    void makesTheDeviceThatIsWanted()
+    {
+        files.setScript(QByteArray(helpers) + "define([to('a')], [setup, can, page('a', [{}])])");
+        const QTemporaryDir directory;
+        const auto start = [&](const char *options) {
+            const auto command =
+                QStringLiteral("exec %1 --web-root %2 --idle 1 --state %3 %4 2>/dev/null")
+                    .arg(program, files.paths().webRoot, directory.path(), QLatin1String(options));
+            return runProgram(QStringLiteral("/bin/sh"), { QStringLiteral("-c"), command }).end;
+        };
+        const auto answer = [&](const char *words) {
+            return runProgram(simulatedTool(directory.path()), { QLatin1String(words) }).output;
+        };
+        const ExitStatus endedWell { ExitStatus::Exited, 0 };
+        QCOMPARE(start("--compartments 5 --meters 1 --seal open"), endedWell);
+        // The first start makes the link to the tool, the second one replaces it.
+        for (int number = 1; number <= 2; ++number) {
+            QCOMPARE(answer("get btnParameterTruckSetup"), QByteArray("[\"value 1\",5]\n"));
+            QCOMPARE(answer("get btnParameterInterfacesCanFasWm"), QByteArray("[1]\n"));
+            QCOMPARE(
+                answer("get_menu_electronic_seal_status"), QByteArray("[\"i18n_wm_false\"]\n"));
+            QCOMPARE(start(""), endedWell);
+        }
+        QCOMPARE(start("--seal closed"), endedWell);
+        QCOMPARE(answer("get_menu_electronic_seal_status"), QByteArray("[\"i18n_wm_true\"]\n"));
+    }
+
+    void runsTheToolThatIsNamed()
+    {
+        files.setScript("");
+        files.setTool("echo own tool");
+        PtySession session;
+        session.setStandardError(QStringLiteral("/dev/null"));
+        QVERIFY(session.start(program,
+            { QStringLiteral("--web-root"), files.paths().webRoot, QStringLiteral("--tool"),
+                files.paths().backendTool },
+            24, 80));
+        QVERIFY(session.waitForText(QStringLiteral("DBC ver: own tool")) && session.send("q"));
+        QCOMPARE(session.waitForExit(), (ExitStatus { ExitStatus::Exited, 0 }));
+    }
+
     void exampleToolSuitsTheConsole()
     {
         const QTemporaryDir directory;
