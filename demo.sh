@@ -13,7 +13,8 @@ you are not root), and builds the demo and dravikon-menu-check in build/release.
 
   --state DIR  keep the device's state in DIR and continue from there next time;
                without it each session starts with a fresh device
-  --trace FILE write each run of the backend tool to FILE, a JSON object a line
+  --trace FILE
+               write each run of the backend tool to FILE, a JSON object a line
   --idle MS    end after MS milliseconds without a key (default 180000)
   --web-root DIR
                preview the menu definition in DIR instead, on a device made from

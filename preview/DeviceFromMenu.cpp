@@ -17,13 +17,13 @@ struct Sample {
 
 const QString anyType = QStringLiteral("any");
 
-// As it comes back from a state file.
+// The value with the type that it has when it is read from the state file.
 QVariant stored(const QVariant &value)
 {
     return parseJson(deviceJson(value)).value_or(QVariant());
 }
 
-// The first value that the menu shows in words; the first one where there is none.
+// The first value for which the menu shows a text, else the first one.
 Sample listSample(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
     const bool isPosition = !handler.hasDatabaseValues(item);
@@ -80,10 +80,10 @@ Sample sample(const TreeViewItemHandler &handler, const TreeViewItem &item, int 
     return { text, anyType };
 }
 
-// The stored value of the entry with `key` at the position `place`; nothing when there is none.
+// The stored value of the entry with `key`, whose position is `place` in the definition of today.
 std::optional<QVariant> storedValue(const DeviceGroup &group, const QString &key, int place)
 {
-    // A state made by hand has no keys: its values are in the order of the entries.
+    // Without keys, in a state made by hand, the values are in the order of the entries.
     const bool isAtPlace = group.keys.isEmpty() || group.keys.value(place) == key;
     const int storedPlace = isAtPlace ? place : group.keys.indexOf(key);
     if (storedPlace < 0 || storedPlace >= group.values.size())
@@ -131,7 +131,7 @@ public:
     }
 
 private:
-    // The screen is asked for its count even when nothing leads to it.
+    // The console reads the counts even if no reference leads to their screen.
     int addCount(const CountEntry &entry, std::optional<int> wish, int fallback)
     {
         const int number = menu.screens.find(QLatin1String(entry.screen));

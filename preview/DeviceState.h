@@ -1,5 +1,5 @@
-// The state of the simulated device. Its backend tool keeps it in a JSON file, which people may
-// edit: whatever the file holds, it can be loaded, and what has no sense there reads as empty.
+// The state of the simulated device, which its backend tool keeps in a JSON file. People may edit
+// the file: a value of the wrong type is loaded as an empty one.
 #pragma once
 
 #include <QStringList>
@@ -8,12 +8,12 @@
 #include <map>
 #include <optional>
 
-/// The values of a screen, for each compartment or meter of its own. All lists have a position for
-/// each entry.
+/// The values of a screen; a repeated screen has a group for each compartment or meter. The lists
+/// are parallel, with one element for each entry of the screen.
 struct DeviceGroup {
-    QStringList keys; ///< label keys, numbered where one comes again; none in a state made by hand
+    QStringList keys; ///< label keys, repeated ones with a number; empty in a state made by hand
     QVariantList types; ///< what may be written: "any", "boolean", "integer", "text" or a list
-    QVariantMap writes; ///< by the words of a write: the numbers of values that it may have
+    QVariantMap writes; ///< by the words of a write: how many values it may have, a list
     QVariantList values;
 };
 
@@ -21,9 +21,9 @@ struct DeviceGroup {
 struct FieldInterface {
     QString query; ///< the command that asks for `answer`
     bool enabled = false;
-    uint answers = 0; ///< how many were given while it was on
+    uint answers = 0; ///< given while it was enabled
     QVariantList drift; ///< by position in the answer: how far its numbers move
-    QVariant answer; ///< a list, or by the number of the query a list for each
+    QVariant answer; ///< a list, or an object with a list for each number in a query
 };
 
 struct DeviceState {
@@ -44,13 +44,13 @@ QString stateFile(const QString &directory);
 /// The state that a file holds; nothing when `json` is no JSON object.
 std::optional<DeviceState> stateFromJson(const QByteArray &json);
 
-/// The state in the file at `path`; nothing when there is none.
+/// The state in the file at `path`; nothing when the file cannot be read or is no JSON object.
 std::optional<DeviceState> loadState(const QString &path);
 
-/// The content of the file.
+/// The content of the file for `state`.
 QByteArray stateJson(DeviceState state);
 
-/// Writes the state to the file at `path`: all of it or, with false, nothing.
+/// Replaces the file at `path`. On failure returns false and leaves the file as it was.
 bool saveState(const QString &path, const DeviceState &state);
 
 /// `value` as the device writes it: decimals with no more digits than they need. Null when JSON

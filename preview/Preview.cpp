@@ -58,7 +58,7 @@ void addOptions(QCommandLineParser &parser)
     add("tool", "Run FILE as the backend tool; there is no simulated device then.", "FILE");
 }
 
-// Each of these takes an option that may be missing and returns what is wrong with its value.
+// These store the value of an option that is given. They return an error message, empty on success.
 
 QString takeNumber(const QCommandLineParser &parser, const char *name, int lowest, int highest,
     std::optional<int> &number)
@@ -96,7 +96,7 @@ QString takeSeal(const QCommandLineParser &parser, std::optional<bool> &isOpen)
         : QStringLiteral("--seal is open or closed");
 }
 
-// What is wrong with the command line; empty when nothing is.
+// Returns an error message, empty on success.
 QString takeOptions(const QCommandLineParser &parser, PreviewOptions &options)
 {
     std::optional<int> idleMs;
@@ -118,7 +118,7 @@ QString takeOptions(const QCommandLineParser &parser, PreviewOptions &options)
     return trace.isEmpty() ? QString() : options.trace.open(trace);
 }
 
-// The exit status where no session is to follow.
+// Returns an exit status if the program is to end without a session.
 std::optional<int> readCommandLine(int argc, char **argv, PreviewOptions &options)
 {
     const QCoreApplication application(argc, argv);
@@ -172,7 +172,7 @@ int runOn(const QString &tool, PreviewOptions &options, char *program)
     int argc = 1;
     char *argv[] = { program, nullptr };
     const int status = runSession(argc, argv, session);
-    // The session's handler only ends sessions; Ctrl-C is to end the report, too.
+    // The session leaves a handler that ignores SIGINT, but Ctrl-C is to end the report.
     std::signal(SIGINT, SIG_DFL);
     const WorkEnd report = doInOwnProcess([&] { return reportProblems(session.paths); });
     if (report.hasCrashed())

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-/// What is previewed unless the command line says otherwise.
+/// The definition to preview unless the command line names one.
 struct PreviewDefaults {
     QString webRoot; ///< of the menu definition
     QString values; ///< file with values of a device for that definition; empty for none

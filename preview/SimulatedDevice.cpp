@@ -27,13 +27,13 @@ QString makeSimulatedDevice(const QString &directory, const QString &program,
         QFile::remove(tool);
     if (!QDir().mkpath(directory) || !QFile::link(program, tool))
         return QStringLiteral("cannot make ") + tool;
-    // The script engine's thread must not be one of the session's process.
+    // The script engine leaves a thread behind, which would take signals of the session.
     const WorkEnd making = doInOwnProcess([&] {
         int argc = 0;
         const QCoreApplication application(argc, nullptr);
         const QuietMessages quiet;
-        return saveState(state, deviceFromMenu(paths, known.value_or(DeviceState()), wishes)) ? 0
-                                                                                              : 1;
+        const DeviceState made = deviceFromMenu(paths, known.value_or(DeviceState()), wishes);
+        return saveState(state, made) ? 0 : 1;
     });
     if (making.hasCrashed())
         return crashText(paths.settingsScript, making);

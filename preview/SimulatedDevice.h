@@ -8,8 +8,8 @@
 /// Makes `directory` a device for the menu definition in `paths`, created if missing. Its values
 /// are those of an earlier run in the directory, else those in the file `values`, and invented
 /// where there are none. `program` becomes the backend tool: the program that calls
-/// `runSimulatedTool` when its name is that of the tool. Returns what went wrong, empty when
-/// nothing did.
+/// `runSimulatedTool` when its name is that of the tool. Returns an error message, empty on
+/// success.
 QString makeSimulatedDevice(const QString &directory, const QString &program,
     const DevicePaths &paths, const QString &values, const DeviceWishes &wishes);
 

@@ -16,7 +16,8 @@ struct Call {
     bool isWrite = false;
 };
 
-// Command words come one by one or in a single argument, the values of a write always last.
+// The command's words are separate arguments or a single one; the last argument of a write is the
+// list of values.
 Call callFrom(QStringList arguments)
 {
     Call call;
@@ -28,7 +29,7 @@ Call callFrom(QStringList arguments)
     return call;
 }
 
-// The directory of the name that the tool was called by: it is a link beside its state.
+// The tool is called by a link in the device's directory.
 QString directoryOf(const char *program)
 {
     const QString path = QFile::decodeName(program);
@@ -39,7 +40,9 @@ QString directoryOf(const char *program)
 QVariant answerTo(const Call &call, const QString &file, DeviceState &state)
 {
     const auto writeAnswer = [&](bool isAccepted) {
-        return QVariantList { isAccepted && saveState(file, state) };
+        if (!isAccepted)
+            return QVariantList { false };
+        return QVariantList { saveState(file, state) };
     };
     const QString command = call.words.value(0);
     if (command == QLatin1String("get_menu_electronic_seal_status")) {

@@ -4,7 +4,7 @@
 #include <QStringList>
 
 /// What the tool of the device in `directory` answers to a call: the version, a JSON list, or
-/// nothing. A write that is accepted, and the drift of an interface's values, change the state.
+/// nothing. An accepted write changes the state, and so does the drift of an interface's values.
 QByteArray simulatedAnswer(const QString &directory, const QStringList &arguments);
 
 /// One run of the tool, for the device whose link to it has the name `argv[0]`. Returns the exit
