@@ -3,8 +3,6 @@
 
 namespace {
 
-constexpr int sealedAccessLevel = 4;
-
 // Repeated screens share their words; the number of the compartment or meter makes the difference.
 QStringList argumentsOf(const QString &binding, int index)
 {

@@ -14,12 +14,6 @@ QScriptValue referenceOf(const TreeViewItemHandler &handler, const TreeViewItem 
     return isReference ? item.referringEntry : QScriptValue();
 }
 
-bool canBeChanged(InputKind kind)
-{
-    return kind == DropdownInput || kind == EditInput || kind == BooleanInput
-        || kind == SliderInput;
-}
-
 Findings levelFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
     const PropertyNames &names = handler.names();
@@ -31,7 +25,7 @@ Findings levelFindings(const TreeViewItemHandler &handler, const TreeViewItem &i
             "the \"accessLvl\" of a screen or a reference protects nothing; give it to each field "
             "that it is for") };
     }
-    if (!level.isValid() || !canBeChanged(handler.inputKind(item)))
+    if (!level.isValid() || !hasDialog(handler.inputKind(item)))
         return {};
     if (!isNumber(level)) {
         return { error("access-level",

@@ -100,9 +100,7 @@ bool TreeViewItemHandler::isEditable(const TreeViewItem &item) const
     if (!item.children.empty() || item.definition.property(propertyNames.remote).toNumber() == 2
         || item.definition.property(propertyNames.accessLevel).toNumber() > currentAccessLevel)
         return false;
-    const InputKind kind = inputKind(item);
-    return kind == DropdownInput || kind == EditInput || kind == BooleanInput
-        || kind == SliderInput;
+    return hasDialog(inputKind(item));
 }
 
 bool TreeViewItemHandler::isVisible(const TreeViewItem &item) const

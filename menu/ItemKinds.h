@@ -22,6 +22,13 @@ constexpr std::array<const char *, NoInput> inputWords = { "separator", "dropdow
     "label", "selectlabel", "edit", "boolean", "slider", "input" };
 static_assert(inputWords.back(), "each kind has its word");
 
+/// True for the kinds whose values can be changed in a dialog.
+constexpr bool hasDialog(InputKind kind)
+{
+    return kind == DropdownInput || kind == EditInput || kind == BooleanInput
+        || kind == SliderInput;
+}
+
 /// Words of "type", but for those of compartment and meter buttons.
 enum TypeKind {
     CompartmentStatusType,

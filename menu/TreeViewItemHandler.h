@@ -19,8 +19,9 @@ struct RepeatCounts;
 /// looks like an empty answer.
 class TreeViewItemHandler : public QObject {
 public:
-    /// The access level while the electronic seal is open.
+    /// The access levels while the electronic seal is open and closed.
     static constexpr int openAccessLevel = 6;
+    static constexpr int sealedAccessLevel = 4;
 
     explicit TreeViewItemHandler(const DevicePaths &paths, const ToolRunner &runTool = {});
 
