@@ -387,9 +387,12 @@ private slots:
         QVERIFY(!report.isEmpty());
         for (const QByteArray &line : report.trimmed().split('\n'))
             QVERIFY2(line.endsWith(" [few-values]"), line);
-        // In several words and in one.
-        const QByteArray values = "[false,\"two  blanks, * and \\\\\",1.5]\n";
-        const auto calls = QStringLiteral("%1 set_menu seal 2 '%2'; %1 'get_menu seal 2'");
+        // In several words and in one; a write with no values or another number of them is refused.
+        const QByteArray values =
+            "[false,\"two  blanks, * and \\\\],\",1.5, {\"a\": [1,2]},[],[[6]],7,8,null]\n";
+        const auto calls =
+            QStringLiteral("%1 set_menu compartment 2 '%2'; %1 set_menu compartment 2; "
+                           "%1 set_menu compartment 2 '[1,2]'; %1 'get_menu compartment 2'");
         QCOMPARE(shellOutput(calls.arg(tool, QString::fromLatin1(values.trimmed()))),
             "[true]\n" + values);
     }
