@@ -3,6 +3,7 @@
 #include "check/DeviceCheck.h"
 #include "check/FileFindings.h"
 #include "check/Interruption.h"
+#include "check/Layout.h"
 #include "check/MenuCheck.h"
 #include "check/OwnProcess.h"
 #include "check/ProgressLine.h"
@@ -78,7 +79,20 @@ CheckStatus reportDevice(LoadedMenu &menu, ToolCalls &calls)
     return problems.isEmpty() ? Clean : HasProblems;
 }
 
-int check(const DevicePaths &paths, bool wantsDevice, bool wantsTree, const QString &trace)
+CheckStatus printLayout(const DevicePaths &paths)
+{
+    print(stdout, menuLayout(paths));
+    return Clean;
+}
+
+struct Wishes {
+    bool device;
+    bool tree;
+    bool layout;
+    QString trace;
+};
+
+int check(const DevicePaths &paths, const Wishes &wishes)
 {
     const QString fault = unreadableScript(paths);
     if (!fault.isEmpty())
@@ -87,29 +101,42 @@ int check(const DevicePaths &paths, bool wantsDevice, bool wantsTree, const QStr
     ToolCalls calls(paths.backendTool, [](int number, const QStringList &arguments) {
         showProgress(QStringLiteral("%1: %2").arg(number).arg(shownCall(arguments)));
     });
-    const QString problem = trace.isEmpty() ? QString() : calls.trace.open(trace);
+    const QString problem = wishes.trace.isEmpty() ? QString() : calls.trace.open(wishes.trace);
     if (!problem.isEmpty())
         return failure(wrongUsage, problem);
     LoadedMenu menu(paths, [&calls](const QStringList &arguments) { return calls.run(arguments); });
     if (menu.root->children.empty())
         return reportMenu(menu);
-    if (wantsTree) {
+    if (wishes.tree || wishes.layout)
         printTableFault(translationTable(paths.webRoot));
-        return wantsDevice ? printDeviceMenu(menu, calls) : printMenu(menu);
-    }
+    if (wishes.layout)
+        return printLayout(paths);
+    if (wishes.tree)
+        return wishes.device ? printDeviceMenu(menu, calls) : printMenu(menu);
     const CheckStatus ofMenu = reportMenu(menu);
-    return wantsDevice ? qMax(ofMenu, reportDevice(menu, calls)) : ofMenu;
+    return wishes.device ? qMax(ofMenu, reportDevice(menu, calls)) : ofMenu;
 }
 
-int checkInOwnProcess(
-    const DevicePaths &paths, bool wantsDevice, bool wantsTree, const QString &trace)
+int checkInOwnProcess(const DevicePaths &paths, const Wishes &wishes)
 {
-    const WorkEnd end = doInOwnProcess([&] { return check(paths, wantsDevice, wantsTree, trace); });
+    const WorkEnd end = doInOwnProcess([&] { return check(paths, wishes); });
     if (end.hasCrashed())
         return failure(EngineCrashed, crashText(paths.settingsScript, end));
     if (end.status < 0)
         std::raise(end.signal);
     return end.status;
+}
+
+// What is wrong with options that do not go together; empty if nothing is.
+QString faultOf(const Wishes &wishes, bool hasTool)
+{
+    if (wishes.layout && (wishes.device || wishes.tree))
+        return QStringLiteral("--layout goes with no other report");
+    if (hasTool && !wishes.device)
+        return QStringLiteral("--tool is for --device");
+    if (!wishes.trace.isEmpty() && !wishes.device)
+        return QStringLiteral("--trace is for --device");
+    return {};
 }
 
 } // namespace
@@ -131,20 +158,24 @@ int main(int argc, char **argv)
         QStringLiteral("Read the device, too, and report which answers do not fit the definition. "
                        "With --tree print the device's menu with all values instead."));
     const QCommandLineOption tool(QStringLiteral("tool"),
-        QStringLiteral("The backend tool that --device runs."), QStringLiteral("PATH"),
+        QStringLiteral("The backend tool to run."), QStringLiteral("PATH"),
         DevicePaths().backendTool);
     const QCommandLineOption trace(QStringLiteral("trace"),
         QStringLiteral("Write each run of the tool to FILE, a JSON object a line."),
         QStringLiteral("FILE"));
-    parser.addOptions({ webRoot, tree, device, tool, trace });
+    const QCommandLineOption layout(QStringLiteral("layout"),
+        QStringLiteral("Print the calls that the console can make, with a row for each position of "
+                       "their values. No tool is run. Status 0."));
+    parser.addOptions({ webRoot, tree, device, tool, trace, layout });
 
     if (const std::optional<int> status = parseCommandLine(parser))
         return *status;
-    if (parser.isSet(tool) && !parser.isSet(device))
-        return failure(wrongUsage, QStringLiteral("--tool is for --device"));
-    if (parser.isSet(trace) && !parser.isSet(device))
-        return failure(wrongUsage, QStringLiteral("--trace is for --device"));
+    const Wishes wishes { parser.isSet(device), parser.isSet(tree), parser.isSet(layout),
+        parser.value(trace) };
+    const QString fault = faultOf(wishes, parser.isSet(tool));
+    if (!fault.isEmpty())
+        return failure(wrongUsage, fault);
     DevicePaths paths { parser.value(webRoot) };
     paths.backendTool = QFileInfo(parser.value(tool)).absoluteFilePath();
-    return checkInOwnProcess(paths, parser.isSet(device), parser.isSet(tree), parser.value(trace));
+    return checkInOwnProcess(paths, wishes);
 }

@@ -55,6 +55,7 @@ class MenuCheckTest : public QObject {
     QString root() const { return QStringLiteral("--web-root=") + device.paths().webRoot; }
     QString tool() const { return QStringLiteral("--tool=") + device.paths().backendTool; }
     const QString tree = QStringLiteral("--tree");
+    const QString layout = QStringLiteral("--layout");
     const QString ask = QStringLiteral("--device");
     const QString demo = QStringLiteral("--web-root=" SOURCES "/demo/web");
 
@@ -313,6 +314,9 @@ private slots:
         row("version", option("--version"), 0, "dravikon-menu-check ", "");
         row("help", option("--help"), 0, "Usage: ", "");
         row("the demo's menu", { demo, tree }, 0, "->  Truck status\n", "");
+        row("layout", { demo, layout }, 0, "NUMBER is ", "");
+        row("two reports", { demo, layout, tree }, 2, "",
+            "dravikon-menu-check: --layout goes with no other report\n");
         row("unknown option", option("--bad"), 2, "", "dravikon-menu-check: Unknown option");
         row("no option", option("bad"), 2, "", "dravikon-menu-check: unexpected bad\n");
         row("tool alone", option("--tool=x"), 2, "", "dravikon-menu-check: --tool is for --device");
@@ -342,7 +346,7 @@ private slots:
             "var spd = 'btnServiceDiagnoseSpdInterfaces\x1b[5m';");
         device.setTool("printf '\\033[1m'; printf '\\033[6m' >&2");
         for (const QStringList &mode :
-            { QStringList(), { tree }, { ask, tool() }, { ask, tree, tool() } }) {
+            { QStringList(), { tree }, { layout }, { ask, tool() }, { ask, tree, tool() } }) {
             const Run made = run(QStringList(root()) + mode);
             const QString printed = made.output + made.messages;
             QVERIFY2(printed.contains(QStringLiteral("x [2J ")), qPrintable(printed));

@@ -1,0 +1,76 @@
+#include "check/Layout.h"
+#include "locale/CTranslationHandler.h"
+#include "preview/DeviceFromMenu.h"
+#include "tests/support/FakeDevice.h"
+
+#include <QtTest>
+
+class LayoutTest : public QObject {
+    Q_OBJECT
+
+    const DevicePaths demo { QStringLiteral(SOURCES "/demo/web") };
+
+private slots:
+    void initTestCase() { CTranslationHandler::setInstanceRoot(demo.webRoot); }
+
+    void hasARowForEachValueOfTheDemo()
+    {
+        const auto known = loadState(QStringLiteral(SOURCES "/demo/device.json"));
+        std::map<QString, DeviceGroup> groups = deviceFromMenu(demo, known.value(), {}).groups;
+        QMap<QString, int> rows;
+        int reads = 0;
+        QString words;
+        for (const QString &line : menuLayout(demo)) {
+            if (line.startsWith(QLatin1String("  read ")) && ++reads)
+                words = line.mid(10).replace(QLatin1String("NUMBER"), QLatin1String("0"));
+            else if (line.left(4).trimmed().toInt() > 0)
+                QCOMPARE(line.left(4).trimmed().toInt(), ++rows[words]);
+        }
+        QVERIFY(reads > 25 && rows.size() == reads);
+        for (auto read = rows.cbegin(); read != rows.cend(); ++read)
+            QVERIFY2(groups[read.key()].values.size() == read.value(), qPrintable(read.key()));
+    }
+
+    void isInTheDocuments()
+    {
+        QFile file(QStringLiteral(SOURCES "/docs/backend-tool.md"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString document = QString::fromUtf8(file.readAll());
+        const QString layout = menuLayout(demo).join(QLatin1Char('\n')) + QLatin1Char('\n');
+        const auto start = QStringLiteral("--web-root demo/web --layout\n");
+        const auto end = QStringLiteral("    ...\n\n");
+        QString excerpt = document.section(start, 1).section(end, 0, 0);
+        QVERIFY(excerpt.count(QLatin1Char('\n')) > 30);
+        excerpt.replace(QLatin1String("\n    "), QLatin1String("\n")).remove(0, 4);
+        for (const QString &part : excerpt.split(QStringLiteral("...\n")))
+            QVERIFY2(layout.contains(part), qPrintable(part));
+    }
+
+    void printsWhatTheConsoleCanCall()
+    {
+        FakeDevice device;
+        device.setScreens(
+            R"([{ css: 'r', 'ajax-read': 'never', screens: [{ css: 'a' }, { css: 'a' },
+            { css: 'h', remote: 0 }, { i18n: 'x', inputType: 'button', 'ajax-read': 'pressed' }] },
+            { css: 'h', type: 'btn', 'ajax-read': 'hidden', screens: [{ i18n: 'x' }] },
+            { css: 'a', 'ajax-read': '\x1b "b  c"', 'ajax-write': 'locked', screens: [
+              { i18n: Array(5).join('key_ words '), inputType: 'edit', validation: 'N5.2',
+                accessLvl: 9 }, { css: 'h' }, { inputType: 'separator' },
+              { i18n: 'x', inputType: 'selectlabel', values: ['y'], dbValues: ['1'] }] }])");
+        const QStringList lines = menuLayout(device.paths());
+        QCOMPARE(lines.mid(lines.indexOf(QStringLiteral("a (a)"))).join(QLatin1Char('\n')),
+            QStringLiteral(R"(a (a)
+  read      "b c"
+   1 key_ words key_ words key_    key_ words key_ words  edit, read-only    accepts no text
+     words key_ words              key_ words key_ words
+   2 h                             h                      reference, hidden
+   3 x                             x                      selectlabel        "1" = y
+
+x
+  read    pressed)"));
+        QVERIFY(device.takeCalls().isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(LayoutTest)
+#include "LayoutTest.moc"
