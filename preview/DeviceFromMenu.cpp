@@ -80,7 +80,7 @@ Sample sample(const TreeViewItemHandler &handler, const TreeViewItem &item, int 
     return { text, anyType };
 }
 
-// The stored value of the entry with `key`, whose position is `place` in the definition of today.
+// The stored value of the entry with `key`, which has the position `place` in the definition.
 std::optional<QVariant> storedValue(const DeviceGroup &group, const QString &key, int place)
 {
     // Without keys, in a state made by hand, the values are in the order of the entries.
