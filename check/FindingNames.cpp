@@ -16,7 +16,7 @@ const QStringList &findingNames()
         "no-label untranslated wide-label unshowable "
         "no-tool hanging-call slow-call no-array tool-end write-call few-values many-values "
         "list-value boolean-value slider-value edit-value count-value seal-status no-tool-version "
-        "interface-answer")
+        "interface-answer not-written refused-write changed-value changed-screen")
                                          .split(QLatin1Char(' '));
     return names;
 }

@@ -7,6 +7,7 @@
 #include "check/MenuCheck.h"
 #include "check/OwnProcess.h"
 #include "check/ProgressLine.h"
+#include "check/WriteBack.h"
 #include "locale/CTranslationHandler.h"
 
 #include <QCoreApplication>
@@ -21,8 +22,8 @@ static_assert(CannotLoad == wrongUsage, "as the help text says");
 
 const QString description = QStringLiteral(
     "Reports what is wrong with the menu definition of a truck controller's web "
-    "interface,\none problem a line. Only --device runs the backend tool, and it writes "
-    "nothing.\n\n"
+    "interface,\none problem a line. Only --device and --write-back run the backend tool, and "
+    "--device\nwrites nothing.\n\n"
     "Exit status: 0 no problem, 1 problems, 2 wrong usage or a script that cannot be "
     "read,\n3 the script engine crashed on the definition, or its script did not end.");
 
@@ -85,10 +86,28 @@ CheckStatus printLayout(const DevicePaths &paths)
     return Clean;
 }
 
+int reportWriteBack(const DevicePaths &paths, ToolCalls &calls)
+{
+    if (!calls.fault().isEmpty())
+        return failure(
+            CannotLoad, calls.tool + QStringLiteral(" cannot be started: ") + calls.fault());
+    takeTime();
+    killToolOnInterruption();
+    int number = 0;
+    const WriteBackReport report = writeBack(paths, calls.trace, [&](const QStringList &call) {
+        showProgress(QStringLiteral("%1: %2").arg(++number).arg(shownCall(call)));
+    });
+    showProgress({});
+    print(stdout, report.problems);
+    print(stderr, report.summary);
+    return report.problems.isEmpty() ? Clean : HasProblems;
+}
+
 struct Wishes {
     bool device;
     bool tree;
     bool layout;
+    bool writeBack;
     QString trace;
 };
 
@@ -107,6 +126,8 @@ int check(const DevicePaths &paths, const Wishes &wishes)
     LoadedMenu menu(paths, [&calls](const QStringList &arguments) { return calls.run(arguments); });
     if (menu.root->children.empty())
         return reportMenu(menu);
+    if (wishes.writeBack)
+        return reportWriteBack(paths, calls);
     if (wishes.tree || wishes.layout)
         printTableFault(translationTable(paths.webRoot));
     if (wishes.layout)
@@ -130,12 +151,15 @@ int checkInOwnProcess(const DevicePaths &paths, const Wishes &wishes)
 // What is wrong with options that do not go together; empty if nothing is.
 QString faultOf(const Wishes &wishes, bool hasTool)
 {
-    if (wishes.layout && (wishes.device || wishes.tree))
-        return QStringLiteral("--layout goes with no other report");
-    if (hasTool && !wishes.device)
-        return QStringLiteral("--tool is for --device");
-    if (!wishes.trace.isEmpty() && !wishes.device)
-        return QStringLiteral("--trace is for --device");
+    if (wishes.layout + wishes.writeBack + (wishes.device || wishes.tree) > 1)
+        return QStringLiteral("--layout and --write-back go with no other report");
+    if (wishes.writeBack && !hasTool)
+        return QStringLiteral("--write-back writes, so name the tool with --tool");
+    const bool runsTool = wishes.device || wishes.writeBack;
+    if (hasTool && !runsTool)
+        return QStringLiteral("--tool is for --device and --write-back");
+    if (!wishes.trace.isEmpty() && !runsTool)
+        return QStringLiteral("--trace is for --device and --write-back");
     return {};
 }
 
@@ -166,12 +190,15 @@ int main(int argc, char **argv)
     const QCommandLineOption layout(QStringLiteral("layout"),
         QStringLiteral("Print the calls that the console can make, with a row for each position of "
                        "their values. No tool is run. Status 0."));
-    parser.addOptions({ webRoot, tree, device, tool, trace, layout });
+    const QCommandLineOption writeBack(QStringLiteral("write-back"),
+        QStringLiteral("For a test bench: write each screen's values back as they are read, and "
+                       "report which do not stay."));
+    parser.addOptions({ webRoot, tree, device, tool, trace, layout, writeBack });
 
     if (const std::optional<int> status = parseCommandLine(parser))
         return *status;
     const Wishes wishes { parser.isSet(device), parser.isSet(tree), parser.isSet(layout),
-        parser.value(trace) };
+        parser.isSet(writeBack), parser.value(trace) };
     const QString fault = faultOf(wishes, parser.isSet(tool));
     if (!fault.isEmpty())
         return failure(wrongUsage, fault);
