@@ -31,7 +31,7 @@ public:
     /// Takes the output written up to now and begins to record bytes and written rows anew.
     void mark();
     /// Output taken since the last mark, as it was written.
-    QByteArray bytesSinceMark() const { return output; }
+    const QByteArray &bytesSinceMark() const { return output; }
 
     const TerminalEmulator &terminal() const { return emulator; }
 

@@ -39,7 +39,7 @@ public:
     QPoint cursor() const;
     bool cursorVisible() const { return cursorShown; }
     /// What the terminal sent back to the program: empty unless the output asked for a report.
-    QByteArray answerBack() const { return answers; }
+    const QByteArray &answerBack() const { return answers; }
 
 private:
     std::unique_ptr<VTerm, void (*)(VTerm *)> vterm;

@@ -14,5 +14,5 @@ inline ProgramResult runProgram(const QString &program, const QStringList &argum
     PtySession session;
     session.PtyProcess::start(program, arguments, 0, 0);
     const ExitStatus end = session.waitForExit();
-    return { end, session.bytesSinceMark().replace("\r\n", "\n") };
+    return { end, QByteArray(session.bytesSinceMark()).replace("\r\n", "\n") };
 }
