@@ -56,7 +56,7 @@ QVariant answerTo(const Call &call, const QString &file, DeviceState &state)
         return writeAnswer(acceptWrite(state, words, call.values));
     if (const auto group = state.groups.find(words); group != state.groups.end())
         return group->second.values;
-    const QVariant answer = interfaceAnswer(state, command, call.words.value(1));
+    QVariant answer = interfaceAnswer(state, command, call.words.value(1));
     if (answer.isValid())
         saveState(file, state);
     return answer;

@@ -27,9 +27,9 @@ public:
     void setCursorVisible(bool visible);
     bool isCursorVisible() const { return cursorVisible; }
 
-    /// Shows the first `rows` lines of `frame`. Text beyond Latin-1 appears as question marks. A
-    /// visible text cursor ends up at `cursor`.
-    void show(const Frame &frame, int rows, const CursorPosition &cursor);
+    /// Shows the first `frameRows` lines of `frame`. Text beyond Latin-1 appears as question marks.
+    /// A visible text cursor ends up at `position`.
+    void show(const Frame &frame, int frameRows, const CursorPosition &position);
 
     /// To be called before each wait for input; `hasInput` when there is some already. Writes what
     /// is to be shown if the line is free; while there is input, only after 100 ms without a frame.

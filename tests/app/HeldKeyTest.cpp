@@ -39,7 +39,7 @@ class HeldKeyTest : public QObject {
     /// and nothing is left to be shown.
     static void wait(TerminalGui &gui, SimulatedLine &line, qint64 endUs)
     {
-        int waitMs = gui.shownScreen().beforeWait(false);
+        qint64 waitMs = gui.shownScreen().beforeWait(false);
         while (waitMs >= 0 && line.nowUs + waitMs * 1000 < endUs) {
             line.nowUs += waitMs * 1000;
             waitMs = gui.shownScreen().beforeWait(false);
