@@ -6,10 +6,31 @@
 
 #include <Version.h>
 
+#include <cerrno>
+#include <cstring>
+
+namespace {
+
+int printError = 0; // errno of the first line that was not printed
+
+} // namespace
+
 void print(std::FILE *file, const QString &line)
 {
-    std::fprintf(file, "%s\n", printable(line).toLocal8Bit().constData());
-    std::fflush(file);
+    const bool isPrinted =
+        std::fprintf(file, "%s\n", printable(line).toLocal8Bit().constData()) >= 0
+        && std::fflush(file) == 0;
+    if (!isPrinted && printError == 0)
+        printError = errno;
+}
+
+int statusOfOutput(int status)
+{
+    if (printError == 0)
+        return status;
+    return failure(outputLost,
+        QStringLiteral("the output is not complete: ")
+            + QString::fromLocal8Bit(std::strerror(printError)));
 }
 
 void printMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
@@ -34,11 +55,11 @@ std::optional<int> parseCommandLine(QCommandLineParser &parser)
     if (parser.isSet(help)) {
         for (const QString &line : parser.helpText().split(QLatin1Char('\n')))
             print(stdout, line);
-        return 0;
+        return statusOfOutput(0);
     }
     if (parser.isSet(version)) {
         print(stdout, QCoreApplication::applicationName() + QLatin1Char(' ') + consoleVersion);
-        return 0;
+        return statusOfOutput(0);
     }
     if (!parser.positionalArguments().isEmpty())
         return failure(

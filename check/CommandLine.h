@@ -9,8 +9,15 @@
 /// The exit status for a command line that cannot be understood.
 constexpr int wrongUsage = 2;
 
+/// The exit status when a line could not be printed, as on a full disk.
+constexpr int outputLost = 2;
+
 /// Prints a line. Foreign text is made printable: a control character becomes a blank.
 void print(std::FILE *file, const QString &line);
+
+/// The exit status of a program that ends with `status`, once all is printed: `outputLost`, after a
+/// line on standard error, when this process could not print some line.
+int statusOfOutput(int status);
 
 /// Prints a message of the console on standard error; to be installed as a message handler.
 void printMessage(QtMsgType type, const QMessageLogContext &context, const QString &text);

@@ -150,12 +150,12 @@ int reportProblems(const DevicePaths &paths)
     const QCoreApplication application(argc, nullptr);
     const QString fault = unreadableScript(paths);
     if (!fault.isEmpty())
-        return failure(0, QStringLiteral("cannot load ") + fault);
+        return statusOfOutput(failure(0, QStringLiteral("cannot load ") + fault));
     const QuietMessages quiet;
     LoadedMenu menu(paths);
     for (const QString &problem : menuProblems(menu))
         print(stderr, problem);
-    return 0;
+    return statusOfOutput(0);
 }
 
 int runOn(const QString &tool, PreviewOptions &options, char *program)
@@ -177,7 +177,7 @@ int runOn(const QString &tool, PreviewOptions &options, char *program)
     const WorkEnd report = doInOwnProcess([&] { return reportProblems(session.paths); });
     if (report.hasCrashed())
         failure(0, crashText(session.paths.settingsScript, report));
-    return status;
+    return report.status == outputLost ? outputLost : statusOfOutput(status);
 }
 
 int runOnSimulatedDevice(const QString &directory, PreviewOptions &options, char *program)

@@ -10,6 +10,7 @@ struct PreviewDefaults {
 };
 
 /// Runs the program as the command line says and returns its exit status: that of the session, 1
-/// when there can be no simulated device, 2 for wrong usage. The same program is the backend tool
-/// of the simulated device, by the name of that tool.
+/// when there can be no simulated device, 2 for wrong usage and when the report after the session
+/// could not be printed. The same program is the backend tool of the simulated device, by the name
+/// of that tool.
 int runPreview(int argc, char **argv, const PreviewDefaults &defaults);

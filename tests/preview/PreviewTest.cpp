@@ -321,6 +321,8 @@ private slots:
         row("tool that is no file", "--tool /",
             "/ cannot be started: it is no file; correct its path");
         row("trace in a file", "--trace /dev/null/x", "cannot write /dev/null/x: Not a directory");
+        row("full disk", "--help > /dev/full",
+            "the output is not complete: No space left on device");
     }
 
     void refusesWrongUsage()
@@ -328,7 +330,7 @@ private slots:
         QFETCH(QString, options);
         QFETCH(QString, message);
         const ProgramResult result = runProgram(QStringLiteral("/bin/sh"),
-            { QStringLiteral("-c"), QStringLiteral("exec %1 %2 2>&1").arg(program, options) });
+            { QStringLiteral("-c"), QStringLiteral("exec %1 2>&1 %2").arg(program, options) });
         QCOMPARE(result.end, (ExitStatus { ExitStatus::Exited, 2 }));
         QCOMPARE(result.output, QStringLiteral("dravikon-preview: %1\n").arg(message).toUtf8());
     }
@@ -470,6 +472,11 @@ private slots:
         files.setTranslations("{}");
         files.setScript("var = 1");
         QVERIFY(messages().startsWith("error: ") && messages().endsWith(" [script]\n"));
+        QCOMPARE(
+            shellOutput(QStringLiteral(PREVIEW " --idle 1 --web-root '%1' >/dev/null 2>/dev/full; "
+                                               "echo $?")
+                            .arg(files.paths().webRoot)),
+            QByteArray("2\n"));
         files.setScreens("[{css: '1', screens: []}]");
         QCOMPARE(messages(), QByteArray());
     }
