@@ -3,6 +3,7 @@
 #include "platform/SignalBlocker.h"
 
 #include <QDeadlineTimer>
+#include <QElapsedTimer>
 
 #include <atomic>
 #include <memory>
@@ -55,21 +56,41 @@ void endTool(ToolProcess &tool)
         tool.waitForEnd(int(death.remainingTime()));
 }
 
+// Measures a run in laps of at most `sliceMs`. A longer one means that this program was stopped.
+class RunTime {
+public:
+    RunTime() { lap.start(); }
+
+    void endLap()
+    {
+        constexpr qint64 longestNs = 4 * sliceMs * 1000000LL;
+        elapsedNs += qMin(lap.nsecsElapsed(), longestNs);
+        lap.start();
+    }
+    qint64 elapsedUs() const { return elapsedNs / 1000; }
+    int remainingMs(int timeoutMs) const { return timeoutMs - int(elapsedNs / 1000000); }
+
+private:
+    QElapsedTimer lap;
+    qint64 elapsedNs = 0;
+};
+
 ToolRun runTool(const QString &program, const QStringList &arguments, int timeoutMs,
     ToolProcess::StandardError standardError)
 {
     if (abandoned)
-        return { {}, {}, { ToolEnd::Abandoned, 0 } };
-    const QDeadlineTimer deadline(timeoutMs);
+        return { {}, {}, 0, { ToolEnd::Abandoned, 0 } };
+    RunTime time;
     const auto tool = start(program, arguments, standardError);
     QByteArray output;
     QByteArray errors;
-    while (tool->isRunning() && !deadline.hasExpired() && !abandoned
+    while (tool->isRunning() && time.remainingMs(timeoutMs) > 0 && !abandoned
         && output.size() <= maximumOutput) {
-        tool->wait(int(qMin<qint64>(sliceMs, deadline.remainingTime())));
+        tool->wait(qMin(sliceMs, time.remainingMs(timeoutMs)));
         tool->takeOutput(output);
         tool->takeErrors(errors);
         errors.truncate(maximumErrors);
+        time.endLap();
     }
     const bool isTimedOut = tool->isRunning();
     if (isTimedOut)
@@ -78,10 +99,11 @@ ToolRun runTool(const QString &program, const QStringList &arguments, int timeou
     while (output.size() <= maximumOutput && tool->takeOutput(output)) { }
     while (errors.size() < maximumErrors && tool->takeErrors(errors)) { }
     if (abandoned)
-        return { {}, errors, { ToolEnd::Abandoned, 0 } };
+        return { {}, errors, time.elapsedUs(), { ToolEnd::Abandoned, 0 } };
     if (output.size() > maximumOutput)
-        return { {}, errors, { ToolEnd::PrintedTooMuch, 0 } };
-    return { output, errors, isTimedOut ? ToolEnd { ToolEnd::TimedOut, 0 } : tool->end() };
+        return { {}, errors, time.elapsedUs(), { ToolEnd::PrintedTooMuch, 0 } };
+    const ToolEnd end = isTimedOut ? ToolEnd { ToolEnd::TimedOut, 0 } : tool->end();
+    return { output, errors, time.elapsedUs(), end };
 }
 
 } // namespace

@@ -7,12 +7,13 @@
 struct ToolRun {
     QByteArray output; ///< what `BackendTool::run` returns
     QByteArray errors; ///< the first 64 KiB of standard error
+    qint64 durationUs; ///< in microseconds, without the time that this program was stopped
     ToolEnd end;
 };
 
 namespace BackendTool {
 
-/// How long a tool may take, in milliseconds.
+/// How long a tool may take, in milliseconds. While the console is stopped, time does not count.
 constexpr int patienceMs = 30000;
 
 /// Runs `program` with `arguments`, one argv entry each and no shell, and returns its standard

@@ -5,9 +5,9 @@
 
 namespace {
 
-QString durationText(qint64 ms)
+QString durationText(qint64 us)
 {
-    return QString::number(double(ms) / 1000, 'f', 1);
+    return QString::number(double(us) / 1e6, 'f', 1);
 }
 
 // The beginning of what the tool printed, in quotes.
@@ -72,12 +72,12 @@ Findings runFindings(const ToolCalls &calls, const QStringList &arguments)
         return { error("hanging-call",
             "<%1> did not end within %2 s and was killed; what it printed until then is its "
             "answer%3",
-            words, durationText(calls.patienceMs), andEnd(call)) };
+            words, durationText(calls.patienceMs * 1000LL), andEnd(call)) };
     }
-    if (call.durationMs > calls.slowMs) {
+    if (call.durationUs > calls.slowMs * 1000LL) {
         return { warning("slow-call",
             "<%1> took %2 s, and the console waits for it; answer within a few ten milliseconds",
-            words, durationText(call.durationMs)) };
+            words, durationText(call.durationUs)) };
     }
     return {};
 }

@@ -2,7 +2,6 @@
 
 #include "json/JsonWriter.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 
 #include <cerrno>
@@ -65,12 +64,10 @@ QString CallTrace::open(const QString &path)
 ToolRun CallTrace::run(const QString &tool, const QStringList &arguments, int timeoutMs)
 {
     const QTime start = QTime::currentTime();
-    QElapsedTimer timer;
-    timer.start();
-    ToolRun run = BackendTool::observedRun(tool, arguments, timeoutMs);
+    const ToolRun run = BackendTool::observedRun(tool, arguments, timeoutMs);
     const QByteArrayList members {
         member("time", start.toString(QStringLiteral("HH:mm:ss.zzz")).toLatin1()),
-        member("ms", QVariant(timer.elapsed())),
+        member("ms", QVariant(run.durationUs / 1000)),
         member("arguments", QVariant(arguments)),
         endMember(run.end),
         member("answer", run.output),

@@ -187,15 +187,15 @@ QStringList callSummary(const ToolCalls &calls)
     std::multimap<qint64, QString, std::greater<>> slowest;
     qint64 total = 0;
     for (const auto &[arguments, call] : calls.all()) {
-        slowest.emplace(call.durationMs, shownCall(arguments));
-        total += call.durationMs;
+        slowest.emplace(call.durationUs, shownCall(arguments));
+        total += call.durationUs;
     }
     QStringList lines { QStringLiteral("%1 calls in %2 s, the slowest:")
                             .arg(slowest.size())
-                            .arg(double(total) / 1000, 0, 'f', 1) };
-    for (const auto &[durationMs, call] : slowest) {
+                            .arg(double(total) / 1e6, 0, 'f', 1) };
+    for (const auto &[durationUs, call] : slowest) {
         if (lines.size() <= shownCalls)
-            lines += QStringLiteral("%1 s  ").arg(double(durationMs) / 1000, 9, 'f', 3) + call;
+            lines += QStringLiteral("%1 s  ").arg(double(durationUs) / 1e6, 9, 'f', 3) + call;
     }
     return lines;
 }

@@ -2,8 +2,6 @@
 
 #include "check/ToolFault.h"
 
-#include <QElapsedTimer>
-
 #include <cstring>
 
 ToolCalls::ToolCalls(QString tool, Progress progress, int patienceMs, int slowMs)
@@ -32,10 +30,7 @@ QByteArray ToolCalls::run(const QStringList &arguments)
         return {};
     if (progress)
         progress(int(made.size()), arguments);
-    QElapsedTimer timer;
-    timer.start();
     static_cast<ToolRun &>(call) = trace.run(tool, arguments, patienceMs);
-    call.durationMs = timer.elapsed();
     if (call.end.kind == ToolEnd::NotStarted) {
         toolFault = QString::fromLocal8Bit(std::strerror(call.end.number));
         made.erase(arguments);

@@ -8,7 +8,6 @@
 
 /// One run of the tool.
 struct ToolCall : ToolRun {
-    qint64 durationMs = 0;
     bool isWithheld = false; ///< not made, as it might write
 };
 

@@ -51,6 +51,8 @@ private slots:
         row("exit status", "echo [1]; echo x >&2; exit 3", { ToolEnd::Exited, 3 }, "[1]\n", "x\n");
         row("signal", "echo [1]; kill -USR1 $$", { ToolEnd::Signalled, SIGUSR1 }, "[1]\n", "");
         row("too slow", "echo [1]; exec sleep 60", { ToolEnd::TimedOut, 0 }, "[1]\n", "");
+        row("console stopped", "kill -STOP $PPID; sleep 2; kill -CONT $PPID; sleep 0.2; echo [1]",
+            { ToolEnd::Exited, 0 }, "[1]\n", "");
         row("too much", "head -c 16777217 /dev/zero", { ToolEnd::PrintedTooMuch, 0 }, "", "");
         row("many errors", "yes | head -c 1000000 >&2; echo [1]", { ToolEnd::Exited, 0 }, "[1]\n",
             QByteArray("y\n").repeated(32768));
@@ -61,12 +63,13 @@ private slots:
         QFETCH(QByteArray, commands);
         QFETCH(ToolEnd, end);
         device.setTool(commands);
-        const int timeoutMs = int(PtySession::scaled(end.kind == ToolEnd::TimedOut ? 1000 : 30000));
+        const int timeoutMs = int(PtySession::scaled(commands.contains("sleep") ? 1000 : 30000));
         const ToolRun run = BackendTool::observedRun(device.paths().backendTool, {}, timeoutMs);
         QCOMPARE(run.end.kind, end.kind);
         QCOMPARE(run.end.number, end.number);
         QTEST(run.output, "output");
         QTEST(run.errors, "errors");
+        QVERIFY(run.durationUs > 0 && run.durationUs < (timeoutMs + 500) * 1000LL);
     }
 
     void observesWhyNothingStarts()
