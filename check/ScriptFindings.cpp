@@ -18,7 +18,8 @@ Findings errorFindings(LoadedMenu &menu)
 {
     const QScriptSyntaxCheckResult syntax =
         QScriptEngine::checkSyntax(menu.handler.scriptHelper().settingsScript());
-    if (syntax.state() != QScriptSyntaxCheckResult::Valid) {
+    // The check does not know all that the engine does, such as getters.
+    if (menu.settings.isError() && syntax.state() != QScriptSyntaxCheckResult::Valid) {
         const QString message = syntax.errorMessage();
         return { error("script", "line %1, column %2: %3; correct it, the console shows no menu",
             syntax.errorLineNumber(), syntax.errorColumnNumber(),
