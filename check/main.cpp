@@ -24,8 +24,9 @@ const QString description = QStringLiteral(
     "Reports what is wrong with the menu definition of a truck controller's web "
     "interface,\none problem a line. Only --device and --write-back run the backend tool, and "
     "--device\nwrites nothing.\n\n"
-    "Exit status: 0 no problem, 1 problems, 2 wrong usage or a script that cannot be "
-    "read,\n3 the script engine crashed on the definition, or its script did not end.");
+    "Exit status: 0 no problem, 1 problems, 2 wrong usage, a script that cannot be "
+    "read or\noutput that cannot be written, 3 the script engine crashed on the definition, or "
+    "its\nscript did not end.");
 
 void print(std::FILE *file, const QStringList &lines)
 {
@@ -140,7 +141,7 @@ int check(const DevicePaths &paths, const Wishes &wishes)
 
 int checkInOwnProcess(const DevicePaths &paths, const Wishes &wishes)
 {
-    const WorkEnd end = doInOwnProcess([&] { return check(paths, wishes); });
+    const WorkEnd end = doInOwnProcess([&] { return statusOfOutput(check(paths, wishes)); });
     if (end.hasCrashed())
         return failure(EngineCrashed, crashText(paths.settingsScript, end));
     if (end.status < 0)

@@ -66,9 +66,11 @@ class MenuCheckTest : public QObject {
         QString messages;
     };
 
-    static Run run(const QStringList &arguments)
+    // The output can be read unless it goes to the file `output`.
+    static Run run(const QStringList &arguments, const QString &output = {})
     {
         QProcess checker;
+        checker.setStandardOutputFile(output);
         // A sanitizer would report a crash of the engine by itself.
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("handle_segv=0"));
@@ -277,6 +279,8 @@ private slots:
             "line 2: x is thrown; correct it, the console ignores what follows");
         row("error as the last value", good + ";\nnew Error('x')", "{}", "error script",
             "settings.js: the script ends with the value Error: x; correct it");
+        row("getter", "Settings = {settings: [{get css() {}}], setupStructureVersion: 1}", "{}", "",
+            "");
         row("no screens", "Settings = {}", "{}", "error script", "defines no screens");
         row("Latin-1 in the script", "\n\"\xe4\";" + good, "{}", "warning not-utf8",
             "settings.js: the script is not UTF-8 (line 2, byte 3)");
@@ -346,10 +350,12 @@ private slots:
     void printsForeignTextWithoutControls()
     {
         device.setTranslations("{\"field\": \"x\\u001b[2J\\u009b\"}");
-        device.setScreens("[{css: 'start', screens: [{css: 'page'}, {css: spd, type: 'status'}]},"
-                          " {css: 'page', 'ajax-read': '\x1b[3m', screens: [{i18n: 'field',"
-                          " inputType: 'selectlabel', values: ['\x1b[4m'] }]},"
-                          " {css: spd, type: 'status', remote: 1}]",
+        device.setScreens(
+            "[{css: 'start', screens: [{css: 'page'}, {css: spd, type: 'status'}]},"
+            " {css: 'page', 'ajax-read': '\x1b[3m', get screens() { print('\x1b[7m');"
+            " return [{i18n: 'field', inputType: 'selectlabel', values: ['\x1b[4m'] }];"
+            " }},"
+            " {css: spd, type: 'status', remote: 1}]",
             "var spd = 'btnServiceDiagnoseSpdInterfaces\x1b[5m';");
         device.setTool("printf '\\033[1m'; printf '\\033[6m' >&2");
         for (const QStringList &mode :
@@ -359,6 +365,11 @@ private slots:
             QVERIFY2(printed.contains(QStringLiteral("x [2J ")), qPrintable(printed));
             QVERIFY2(!printed.contains(QRegularExpression(QStringLiteral("[\\x{1b}\\x{9b}]"))),
                 qPrintable(printed));
+            const Run lost = run(QStringList(root()) + mode, QStringLiteral("/dev/full"));
+            QCOMPARE(lost.status, 2);
+            QVERIFY(lost.messages.endsWith(
+                QLatin1String("dravikon-menu-check: the output is not complete: No space left on "
+                              "device\n")));
         }
     }
 
