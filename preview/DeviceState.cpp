@@ -139,8 +139,9 @@ bool saveState(const QString &path, const DeviceState &state)
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return false;
-    file.write(stateJson(state));
-    return file.commit();
+    // On a full disk only flush() notices that the last bytes are lost.
+    const QByteArray json = stateJson(state);
+    return file.write(json) == json.size() && file.flush() && file.commit();
 }
 
 QByteArray deviceJson(const QVariant &value)

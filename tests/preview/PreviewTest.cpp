@@ -339,10 +339,11 @@ private slots:
     {
         files.setScript(QByteArray(helpers) + "define([to('a')], [setup, can, page('a', [{}])])");
         const QTemporaryDir directory;
-        const auto start = [&](const char *options) {
-            const auto command =
-                QStringLiteral("exec %1 --web-root %2 --idle 1 --state %3 %4 2>/dev/null")
-                    .arg(program, files.paths().webRoot, directory.path(), QLatin1String(options));
+        const auto start = [&](const char *options, const QString &before = {}) {
+            const auto command = before
+                + QStringLiteral("exec %1 --web-root %2 --idle 1 --state %3 %4 2>/dev/null")
+                      .arg(
+                          program, files.paths().webRoot, directory.path(), QLatin1String(options));
             return runProgram(QStringLiteral("/bin/sh"), { QStringLiteral("-c"), command }).end;
         };
         const auto answer = [&](const char *words) {
@@ -360,6 +361,12 @@ private slots:
         }
         QCOMPARE(start("--seal closed"), endedWell);
         QCOMPARE(answer("get_menu_electronic_seal_status"), QByteArray("[\"i18n_wm_true\"]\n"));
+        // As on a full disk, nothing can be written.
+        const QString full = QStringLiteral("trap '' XFSZ; ulimit -f 0; ");
+        QCOMPARE(shellOutput(full + simulatedTool(directory.path()) + QStringLiteral(" set a [1]")),
+            QByteArray("[false]\n"));
+        QCOMPARE(start("", full), (ExitStatus { ExitStatus::Exited, 1 }));
+        QCOMPARE(answer("get a"), QByteArray("[\"value 1\"]\n"));
     }
 
     void runsTheToolThatIsNamed()
