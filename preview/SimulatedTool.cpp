@@ -83,6 +83,6 @@ int runSimulatedTool(int argc, char **argv)
     const QByteArray answer = simulatedAnswer(directory, arguments);
     if (answer.isEmpty())
         return 1;
-    std::puts(answer.constData());
-    return 0;
+    const bool isPrinted = std::puts(answer.constData()) >= 0 && std::fflush(stdout) == 0;
+    return isPrinted ? 0 : 1;
 }

@@ -24,19 +24,21 @@ private slots:
                                  "    --version version of this binary\n\n";
         const QByteArray version =
             "Tavrolink-Dravikon-Version: " + QByteArray(consoleVersion.data()) + '\n';
-        const Rows<QString, QByteArray> row("words", "output");
-        row("version", "--version", version);
-        row("help", "-h", usage);
-        row("unknown word", "--Version", usage);
-        row("version as the second word", "-x --version", usage);
+        const Rows<QString, int, QByteArray> row("words", "status", "output");
+        row("version", "--version", 255, version);
+        row("help", "-h", 255, usage);
+        row("unknown word", "--Version", 255, usage);
+        row("version as the second word", "-x --version", 255, usage);
+        row("full disk", "--version >/dev/full", 2, "");
     }
 
     void commandLine()
     {
         QFETCH(QString, words);
-        const ProgramResult result =
-            runProgram(QStringLiteral(CONSOLE), words.split(QLatin1Char(' ')));
-        QCOMPARE(result.end, (ExitStatus { ExitStatus::Exited, 255 }));
+        QFETCH(int, status);
+        const ProgramResult result = runProgram(QStringLiteral("/bin/sh"),
+            { QStringLiteral("-c"), QStringLiteral("exec " CONSOLE " ") + words });
+        QCOMPARE(result.end, (ExitStatus { ExitStatus::Exited, status }));
         QTEST(result.output, "output");
     }
 

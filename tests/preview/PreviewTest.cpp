@@ -323,6 +323,8 @@ private slots:
         row("trace in a file", "--trace /dev/null/x", "cannot write /dev/null/x: Not a directory");
         row("full disk", "--help > /dev/full",
             "the output is not complete: No space left on device");
+        row("closed standard output", "--help >&-",
+            "the output is not complete: Bad file descriptor");
     }
 
     void refusesWrongUsage()
@@ -367,6 +369,9 @@ private slots:
             QByteArray("[false]\n"));
         QCOMPARE(start("", full), (ExitStatus { ExitStatus::Exited, 1 }));
         QCOMPARE(answer("get a"), QByteArray("[\"value 1\"]\n"));
+        QCOMPARE(shellOutput(simulatedTool(directory.path())
+                     + QStringLiteral(" get a > /dev/full; echo $?")),
+            QByteArray("1\n"));
     }
 
     void runsTheToolThatIsNamed()
