@@ -66,6 +66,7 @@ QVariant answerTo(const Call &call, const QString &file, DeviceState &state)
 
 QByteArray simulatedAnswer(const QString &directory, const QStringList &arguments)
 {
+    const StateLock lock(directory);
     const QString file = stateFile(directory);
     DeviceState state = loadState(file).value_or(DeviceState());
     if (arguments.value(0) == QLatin1String("--version"))

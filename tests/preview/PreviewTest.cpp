@@ -339,7 +339,10 @@ private slots:
 
     void makesTheDeviceThatIsWanted()
     {
-        files.setScript(QByteArray(helpers) + "define([to('a')], [setup, can, page('a', [{}])])");
+        files.setScript(QByteArray(helpers)
+            + "var pages = [], digits = '0123456789'.split('');"
+              "for (var digit in digits) pages.push(page(digit, [{}]));"
+              "define(digits.map(to), [setup, can].concat(pages))");
         const QTemporaryDir directory;
         const auto start = [&](const char *options, const QString &before = {}) {
             const auto command = before
@@ -363,14 +366,20 @@ private slots:
         }
         QCOMPARE(start("--seal closed"), endedWell);
         QCOMPARE(answer("get_menu_electronic_seal_status"), QByteArray("[\"i18n_wm_true\"]\n"));
+        // Calls at the same time do not disturb each other.
+        const auto calls =
+            QStringLiteral("t=%1; for n in {0..9}; do $t set $n [$n] & done | uniq; wait; "
+                           "for n in {0..9}; do $t get $n; done");
+        QCOMPARE(shellOutput(calls.arg(simulatedTool(directory.path()))),
+            QByteArray("[true]\n[0]\n[1]\n[2]\n[3]\n[4]\n[5]\n[6]\n[7]\n[8]\n[9]\n"));
         // As on a full disk, nothing can be written.
         const QString full = QStringLiteral("trap '' XFSZ; ulimit -f 0; ");
-        QCOMPARE(shellOutput(full + simulatedTool(directory.path()) + QStringLiteral(" set a [1]")),
+        QCOMPARE(shellOutput(full + simulatedTool(directory.path()) + QStringLiteral(" set 1 [2]")),
             QByteArray("[false]\n"));
         QCOMPARE(start("", full), (ExitStatus { ExitStatus::Exited, 1 }));
-        QCOMPARE(answer("get a"), QByteArray("[\"value 1\"]\n"));
+        QCOMPARE(answer("get 1"), QByteArray("[1]\n"));
         QCOMPARE(shellOutput(simulatedTool(directory.path())
-                     + QStringLiteral(" get a > /dev/full; echo $?")),
+                     + QStringLiteral(" get 1 > /dev/full; echo $?")),
             QByteArray("1\n"));
     }
 
