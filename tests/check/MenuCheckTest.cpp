@@ -428,6 +428,25 @@ private slots:
                 .arg(device.paths().settingsScript));
     }
 
+    void endsOnLargeDefinitions_data()
+    {
+        const Rows<QByteArray> row("screens");
+        row("values",
+            "[{css: 'r', screens: [{css: 'a'}]}, {css: 'a', screens: [{inputType: "
+            "'selectlabel', values: {length: 1e5}, dbValues: {length: 1e5}}]}]");
+        row("unreached screens", "many");
+        row("fields without label", "[{screens: many.map(function() { return {}; })}]");
+        row("shared entries", "[{screens: many.map(function() { return {screens: many}; })}]");
+    }
+    void endsOnLargeDefinitions()
+    {
+        QFETCH(QByteArray, screens);
+        device.setScreens(screens,
+            "for (var many = []; many.length < 20000;)"
+            " many.push({css: 's' + many.length});");
+        QCOMPARE(run({ root() }).status, 1); // not that of a script without end
+    }
+
     void recordsDevice()
     {
         device.setScreens(oneField);
