@@ -375,11 +375,26 @@ private slots:
         QVERIFY(session.waitFor([&] { return session.bytesSinceMark().contains("Drav"); }));
     }
 
+    void endWhileStopped_data()
+    {
+        const Rows<QString, QString> row("commands", "text");
+        row("SIGTERM", "\"$@\"; kill %1; read x", "ended by signal 15");
+        row("shell that continues nothing by itself",
+            "exec dash -c 'set -m; \"$@\"; kill %1; fg' dash \"$@\"", "ended by signal 15");
+        row("Ctrl-C in the background",
+            "\"$@\"; kill -INT %1; kill -CONT %1; wait %1; echo status $?; read x", "status 0");
+        row("Ctrl-C after a stop in the background",
+            "\"$@\"; bg; wait %1; kill -INT %1; bg; wait %1; echo status $?; read x", "status 0");
+    }
+
     void endWhileStopped()
     {
+        QFETCH(QString, commands);
         Session session;
-        QVERIFY(startAsJob(session, QStringLiteral("\"$@\"; kill %1; read x")));
-        QVERIFY(session.send("\x1a") && session.waitForText(QStringLiteral("ended by signal 15")));
+        QVERIFY(startAsJob(session, commands));
+        QVERIFY(session.send("\x1a"));
+        QFETCH(QString, text);
+        QVERIFY(session.waitForText(text));
     }
 };
 
