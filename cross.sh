@@ -37,7 +37,7 @@ esac
 
 cd "$(dirname "$0")"
 cmake/install-missing.sh "g++-$triplet" cmake ninja-build pkg-config qtbase5-dev-tools \
-    mmdebstrap uidmap dpkg-dev file qemu-user-static
+    mmdebstrap mount uidmap dpkg-dev file qemu-user-static
 sysroot=$PWD/build/sysroot/$arch
 
 if [[ ! -d $sysroot ]]; then
