@@ -14,7 +14,8 @@ constexpr char lastRowSequence[] = "\x1b[0m\x1b[999H\x1b[K\x1b[?25h";
 
 template <size_t size> void leave(const char (&text)[size]) noexcept
 {
-    if (!TerminalMode::isActive())
+    const pid_t foreground = tcgetpgrp(STDIN_FILENO);
+    if (!TerminalMode::isActive() || (foreground > 0 && foreground != getpgrp()))
         return;
     tcflush(STDOUT_FILENO, TCOFLUSH);
     TerminalMode::restore();

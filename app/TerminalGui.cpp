@@ -22,8 +22,7 @@ TerminalGui::TerminalGui(const DevicePaths &paths, Line &line, const ToolRunner 
 TerminalGui::~TerminalGui()
 {
     TerminalMode::restore();
-    if (TerminalMode::isActive())
-        screen.leave();
+    screen.leave();
 }
 
 void TerminalGui::updateWindowSize()

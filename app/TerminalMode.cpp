@@ -23,14 +23,13 @@ TerminalMode::~TerminalMode()
 
 bool TerminalMode::isActive() noexcept
 {
-    const pid_t foreground = tcgetpgrp(STDIN_FILENO);
-    return current && (foreground <= 0 || foreground == getpgrp());
+    return current;
 }
 
 void TerminalMode::restore() noexcept
 {
-    if (isActive())
-        tcsetattr(STDIN_FILENO, TCSANOW, &current.load()->savedTermios);
+    if (const TerminalMode *const mode = current)
+        tcsetattr(STDIN_FILENO, TCSANOW, &mode->savedTermios);
 }
 
 void TerminalMode::resume() noexcept

@@ -37,13 +37,9 @@ QString directoryOf(const char *program)
     return slash < 0 ? QStringLiteral(".") : path.left(slash + 1);
 }
 
-QVariant answerTo(const Call &call, const QString &file, DeviceState &state)
+QVariant answerTo(const Call &call, DeviceState &state, const std::function<bool()> &save)
 {
-    const auto writeAnswer = [&](bool isAccepted) {
-        if (!isAccepted)
-            return QVariantList { false };
-        return QVariantList { saveState(file, state) };
-    };
+    const auto writeAnswer = [&](bool isAccepted) { return QVariantList { isAccepted && save() }; };
     const QString command = call.words.value(0);
     if (command == QLatin1String("get_menu_electronic_seal_status")) {
         const bool isClosed = sealValue(state).toBool();
@@ -58,32 +54,32 @@ QVariant answerTo(const Call &call, const QString &file, DeviceState &state)
         return group->second.values;
     QVariant answer = interfaceAnswer(state, command, call.words.value(1));
     if (answer.isValid())
-        saveState(file, state);
+        save();
     return answer;
 }
 
 } // namespace
 
-QByteArray simulatedAnswer(const QString &directory, const QStringList &arguments)
+QByteArray simulatedAnswer(
+    DeviceState &state, const QStringList &arguments, const std::function<bool()> &save)
 {
-    const StateLock lock(directory);
-    const QString file = stateFile(directory);
-    DeviceState state = loadState(file).value_or(DeviceState());
     if (arguments.value(0) == QLatin1String("--version"))
         return state.version.toUtf8();
-    const QVariant answer = answerTo(callFrom(arguments), file, state);
+    const QVariant answer = answerTo(callFrom(arguments), state, save);
     return answer.isValid() ? deviceJson(answer) : QByteArray();
 }
 
 int runSimulatedTool(int argc, char **argv)
 {
-    const QString directory = directoryOf(argv[0]);
+    const QString file = stateFile(directoryOf(argv[0]));
     QStringList arguments;
     for (int index = 1; index < argc; ++index)
         arguments += QString::fromUtf8(argv[index]);
-    const QByteArray answer = simulatedAnswer(directory, arguments);
+    DeviceState state = loadState(file).value_or(DeviceState());
+    const QByteArray answer =
+        simulatedAnswer(state, arguments, [&] { return saveState(file, state); });
     if (answer.isEmpty())
         return 1;
-    const bool isPrinted = std::puts(answer.constData()) >= 0 && std::fflush(stdout) == 0;
-    return isPrinted ? 0 : 1;
+    std::puts(answer.constData());
+    return 0;
 }

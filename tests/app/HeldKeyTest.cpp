@@ -16,7 +16,7 @@ class HeldKeyTest : public QObject {
 
     static QByteArray answer(const QStringList &call)
     {
-        if (call.first().startsWith(QLatin1String("get_menu_service")))
+        if (call.first().startsWith("get_menu_service"))
             return R"([["1.0","A",[1,2,3]],["2.0","B",[4,5]],["3.0","C",[6]],"off"])";
         QByteArray values = R"(["name")";
         for (int i = 2; i <= 40; ++i)
@@ -66,9 +66,22 @@ private slots:
             })");
     }
 
-    void endsWithItsRelease_data()
+    void endsWithItsRelease()
     {
-        const Rows<Keys, Keys, QString> row("before", "held", "shown");
+        const Rows row = [this](const Keys &before, const Keys &held, const QString &shown) {
+            constexpr qint64 secondUs = 1000000;
+            SimulatedLine line;
+            TerminalGui gui(device.paths(), line, answer);
+            gui.initTerminal();
+            press(gui, line, before, 10 * secondUs);
+            press(gui, line, held, secondUs / 30);
+            const qint64 releaseUs = line.nowUs;
+            wait(gui, line, releaseUs + 60 * secondUs);
+            const qint64 runOnMs = (line.lastByteUs - releaseUs) / 1000;
+            QVERIFY2(runOnMs <= 400, qPrintable(QString("runs on for %1 ms").arg(runOnMs)));
+            const QString screen = notationOfScreen(line.terminal).join('\n');
+            QVERIFY2(screen.contains(shown), qPrintable(screen));
+        };
         const Keys openValues { Qt::Key_Return };
         const Keys openField { Qt::Key_Return, Qt::Key_Down, Qt::Key_Return };
         const Keys openInterfaces { Qt::Key_Down, Qt::Key_Return };
@@ -80,25 +93,6 @@ private slots:
         row("PgDn on an interface screen", openInterfaces, Keys(60, Qt::Key_PageDown),
             ":|SPD IF: 4/4");
         row("PgDn and PgUp there", openInterfaces, thereAndBack, ":|SPD IF: 1/4");
-    }
-
-    void endsWithItsRelease()
-    {
-        QFETCH(Keys, before);
-        QFETCH(Keys, held);
-        QFETCH(QString, shown);
-        constexpr qint64 secondUs = 1000000;
-        SimulatedLine line;
-        TerminalGui gui(device.paths(), line, answer);
-        gui.initTerminal();
-        press(gui, line, before, 10 * secondUs);
-        press(gui, line, held, secondUs / 30);
-        const qint64 releaseUs = line.nowUs;
-        wait(gui, line, releaseUs + 60 * secondUs);
-        const qint64 runOnMs = (line.lastByteUs - releaseUs) / 1000;
-        QVERIFY2(runOnMs <= 400, qPrintable(QStringLiteral("runs on for %1 ms").arg(runOnMs)));
-        const QString screen = notationOfScreen(line.terminal).join(QLatin1Char('\n'));
-        QVERIFY2(screen.contains(shown), qPrintable(screen));
     }
 
     // A write to it would block, and no key would end the session.
@@ -116,7 +110,7 @@ private slots:
             line.isStopped = false;
             wait(gui, line, line.nowUs + 10000000);
             QCOMPARE(line.writes, writes + 1);
-            QVERIFY(line.terminal.row(2).contains(QStringLiteral("line 1")));
+            QVERIFY(line.terminal.row(2).contains("line 1"));
             line.isStopped = true;
             press(gui, line, { Qt::Key_Down }, 0);
         }

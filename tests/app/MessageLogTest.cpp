@@ -46,27 +46,26 @@ class MessageLogTest : public QObject {
     Q_OBJECT
 
     const QTemporaryDir folder;
-    const QByteArray socketPath = folder.filePath(QStringLiteral("log")).toLocal8Bit();
+    const QByteArray socketPath = folder.filePath("log").toLocal8Bit();
     int terminal = -1; ///< shows what is written to `errorTerminal`
     int errorTerminal = -1;
 
-    // Of many messages, the reader has got all up to where its queue was full. What comes after
-    // them follows the number of the others.
-    static void checkWhatArrived(const QByteArrayList &first, const QByteArrayList &rest)
-    {
-        QVERIFY(!first.isEmpty() && first.size() < messageCount);
-        for (int i = 0; i < first.size(); ++i)
-            QVERIFY2(first[i].endsWith(" number " + QByteArray::number(i)), first[i].constData());
-        QCOMPARE(rest.size(), 2);
-        const QByteArray dropped = QByteArray::number(messageCount - first.size());
-        QVERIFY2(rest[0].endsWith("Messages dropped: " + dropped), rest[0].constData());
-        QVERIFY2(rest[1].endsWith("last message"), rest[1].constData());
-    }
-
-    static void sendMany()
+    // Of many messages, the reader gets all up to where its queue is full. What comes after them
+    // follows the number of the others.
+    static void flood(int reader)
     {
         for (int i = 0; i < messageCount; ++i)
             qWarning("message of a usual length, number %d", i);
+        const QByteArrayList first = waitingMessages(reader);
+        QVERIFY(!first.isEmpty() && first.size() < messageCount);
+        for (int i = 0; i < first.size(); ++i)
+            QVERIFY2(first[i].endsWith(" number " + QByteArray::number(i)), first[i]);
+        qWarning("last message");
+        const QByteArrayList rest = waitingMessages(reader);
+        QCOMPARE(rest.size(), 2);
+        const QByteArray dropped = QByteArray::number(messageCount - first.size());
+        QVERIFY2(rest[0].endsWith("Messages dropped: " + dropped), rest[0]);
+        QVERIFY2(rest[1].endsWith("last message"), rest[1]);
     }
 
     // Installs the log with standard error on a terminal. The test reports on standard output.
@@ -90,19 +89,13 @@ private slots:
         QVERIFY(pipe2(ends.data(), O_CLOEXEC | O_DIRECT | O_NONBLOCK) == 0);
         dup2(ends[1], STDERR_FILENO);
         installMessageLog();
-        sendMany();
-        const QByteArrayList first = waitingMessages(ends[0]);
-        qWarning("last message");
-        checkWhatArrived(first, waitingMessages(ends[0]));
+        flood(ends[0]);
     }
 
     void silentDaemon()
     {
         const int daemon = daemonBesideTerminal();
-        sendMany();
-        const QByteArrayList first = waitingMessages(daemon);
-        qWarning("last message");
-        checkWhatArrived(first, waitingMessages(daemon));
+        flood(daemon);
         QVERIFY(waitingMessages(terminal).isEmpty());
         close(daemon);
     }
@@ -122,27 +115,22 @@ private slots:
         close(daemon);
     }
 
-    void priority_data()
+    void priority()
     {
-        const Rows<int, int> row("type", "priority");
+        const Rows row = [this](int type, int priority) {
+            const int daemon = daemonBesideTerminal();
+            qt_message_output(QtMsgType(type), {}, "text");
+            const QByteArray message = waitingMessages(daemon).value(0);
+            // As in "<12>program[123]: text"; the daemon adds the time.
+            const QRegularExpression form(
+                QString(R"(^<%1>[\w-]+\[\d+\]: text$)").arg(LOG_USER | priority));
+            QVERIFY2(form.match(QString::fromLatin1(message)).hasMatch(), message.constData());
+            close(daemon);
+        };
         row("debug", QtDebugMsg, LOG_DEBUG);
         row("info", QtInfoMsg, LOG_INFO);
         row("warning", QtWarningMsg, LOG_WARNING);
         row("critical", QtCriticalMsg, LOG_ERR);
-    }
-
-    void priority()
-    {
-        QFETCH(int, type);
-        QFETCH(int, priority);
-        const int daemon = daemonBesideTerminal();
-        qt_message_output(QtMsgType(type), {}, QStringLiteral("text"));
-        const QByteArray message = waitingMessages(daemon).value(0);
-        // As in "<12>program[123]: text"; the daemon adds the time.
-        const QRegularExpression form(
-            QStringLiteral(R"(^<%1>[\w-]+\[\d+\]: text$)").arg(LOG_USER | priority));
-        QVERIFY2(form.match(QString::fromLatin1(message)).hasMatch(), message.constData());
-        close(daemon);
     }
 
     void fatalMessageOnTerminal()
@@ -150,7 +138,7 @@ private slots:
         const int daemon = daemonBesideTerminal();
         // The handler itself: qFatal() would end the test.
         const QtMessageHandler handler = qInstallMessageHandler(nullptr);
-        handler(QtFatalMsg, {}, QStringLiteral("why it ends"));
+        handler(QtFatalMsg, {}, "why it ends");
         QVERIFY(waitingMessages(terminal).value(0).contains("why it ends"));
         QVERIFY(waitingMessages(daemon).isEmpty());
         close(daemon);

@@ -16,13 +16,11 @@ enum Outcome { GivenUp, NotGivenUp, NoEffect };
 Outcome runAsNobody(const QString &setpriv)
 {
     constexpr uid_t nobody = 65534;
-    const QString asRoot = QStringLiteral("--reuid=0");
-    if (setuid(nobody) != 0 || QProcess::execute(setpriv, { asRoot, QStringLiteral("true") }) != 0)
+    const QString asRoot = "--reuid=0";
+    if (setuid(nobody) != 0 || QProcess::execute(setpriv, { asRoot, "true" }) != 0)
         return NoEffect;
-    const QByteArray answer = BackendTool::run(setpriv,
-        { asRoot, QStringLiteral("sh"), QStringLiteral("-c"),
-            QStringLiteral("echo $(id -ru); sleep 30") },
-        int(PtySession::scaled(2000)));
+    const QByteArray answer = BackendTool::run(
+        setpriv, { asRoot, "sh", "-c", "echo $(id -ru); sleep 30" }, int(PtySession::scaled(2000)));
     return answer == "0\n" ? GivenUp : NotGivenUp;
 }
 
@@ -35,8 +33,8 @@ private slots:
     void isGivenUp()
     {
         QTemporaryDir directory;
-        const QString tool = directory.filePath(QStringLiteral("setpriv"));
-        QVERIFY(QFile::copy(QStringLiteral("/usr/bin/setpriv"), tool));
+        const QString tool = directory.filePath("setpriv");
+        QVERIFY(QFile::copy("/usr/bin/setpriv", tool));
         QCOMPARE(chmod(QFile::encodeName(directory.path()).constData(), 0755), 0);
         QCOMPARE(chmod(QFile::encodeName(tool).constData(), 04755), 0);
         const pid_t console = fork();

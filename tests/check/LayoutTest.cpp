@@ -8,27 +8,42 @@
 class LayoutTest : public QObject {
     Q_OBJECT
 
-    const DevicePaths demo { QStringLiteral(SOURCES "/demo/web") };
+    const DevicePaths demo { SOURCES "/demo/web" };
 
 private slots:
     void initTestCase() { CTranslationHandler::setInstanceRoot(demo.webRoot); }
 
     void hasARowForEachValueOfTheDemo()
     {
-        const auto known = loadState(QStringLiteral(SOURCES "/demo/device.json"));
+        const auto known = loadState(SOURCES "/demo/device.json");
         std::map<QString, DeviceGroup> groups = deviceFromMenu(demo, known.value(), {}).groups;
         QMap<QString, int> rows;
         int reads = 0;
         QString words;
         for (const QString &line : menuLayout(demo)) {
-            if (line.startsWith(QLatin1String("  read ")) && ++reads)
-                words = line.mid(10).replace(QLatin1String("NUMBER"), QLatin1String("0"));
+            if (line.startsWith("  read ") && ++reads)
+                words = line.mid(10).replace("NUMBER", "0");
             else if (line.left(4).trimmed().toInt() > 0)
                 QCOMPARE(line.left(4).trimmed().toInt(), ++rows[words]);
         }
         QVERIFY(reads > 25 && rows.size() == reads);
         for (auto read = rows.cbegin(); read != rows.cend(); ++read)
             QVERIFY2(groups[read.key()].values.size() == read.value(), qPrintable(read.key()));
+    }
+
+    void isInTheDocuments()
+    {
+        QFile file(SOURCES "/docs/backend-tool.md");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString document = QString::fromUtf8(file.readAll());
+        const QString layout = menuLayout(demo).join('\n') + '\n';
+        const auto start = "--web-root demo/web --layout\n";
+        const auto end = "    ...\n\n";
+        QString excerpt = document.section(start, 1).section(end, 0, 0);
+        QVERIFY(excerpt.count('\n') > 30);
+        excerpt.replace("\n    ", "\n").remove(0, 4);
+        for (const QString &part : excerpt.split("...\n"))
+            QVERIFY2(layout.contains(part), qPrintable(part));
     }
 
     void printsWhatTheConsoleCanCall()
@@ -43,8 +58,8 @@ private slots:
                 accessLvl: 9 }, { css: 'h' }, { inputType: 'separator' },
               { i18n: 'x', inputType: 'selectlabel', values: ['y'], dbValues: ['1'] }] }])");
         const QStringList lines = menuLayout(device.paths());
-        QCOMPARE(lines.mid(lines.indexOf(QStringLiteral("a (a)"))).join(QLatin1Char('\n')),
-            QStringLiteral(R"(a (a)
+        QCOMPARE(lines.mid(lines.indexOf("a (a)")).join('\n'),
+            R"(a (a)
   read      "b c"
    1 key_ words key_ words key_    key_ words key_ words  edit, read-only    accepts no text
      words key_ words              key_ words key_ words
@@ -52,7 +67,7 @@ private slots:
    3 x                             x                      selectlabel        "1" = y
 
 x
-  read    pressed)"));
+  read    pressed)");
         QVERIFY(device.takeCalls().isEmpty());
     }
 };

@@ -5,13 +5,10 @@
 #include "check/ToolFault.h"
 #include "locale/CTranslationHandler.h"
 #include "preview/SimulatedDevice.h"
-#include "terminal/PtySession.h"
 #include "tests/support/FakeDevice.h"
+#include "tests/support/Findings.h"
 #include "tests/support/Rows.h"
-
-#include <QProcess>
-
-#include <csignal>
+#include "tests/support/RunProgram.h"
 
 #include <unistd.h>
 
@@ -23,175 +20,146 @@ static const char translations[] = R"({"start": "Start", "page": "Page", "other"
 static const char oneField[] = "[{css: 'start', screens: [{css: 'page'}]},"
                                "{css: 'page', 'ajax-read': 'read', screens: [{i18n: 'field'}]}]";
 
+static const char goodScript[] = "Settings = {settings: [{css: 'r'}], setupStructureVersion: 1}";
+
 class MenuCheckTest : public QObject {
     Q_OBJECT
 
     FakeDevice device;
-    QString helpers; ///< what the definitions of the table are written with
 
-    QStringList problems()
+    QStringList definitionFaults()
     {
         LoadedMenu menu(device.paths());
         return menuProblems(menu);
     }
 
-    QStringList problemsOnDevice(
+    QStringList deviceFaults(
         int patienceMs = BackendTool::patienceMs, int slowMs = BackendTool::patienceMs)
     {
         ToolCalls calls(device.paths().backendTool, {}, patienceMs, slowMs);
         LoadedMenu menu(device.paths(),
             [&calls](const QStringList &arguments) { return calls.run(arguments); });
         readDevice(menu, calls, DeviceExtent::Everything);
-        return problems() + deviceProblems(menu, calls);
+        return definitionFaults() + deviceProblems(menu, calls);
     }
 
-    // Severity and name of each.
-    static QString namesOf(QStringList lines)
+    const QString demo = "--web-root=" SOURCES "/demo/web ";
+    const QString root = "--web-root=" + device.paths().webRoot + ' ';
+    const QString ask = "--device --tool=" + device.paths().backendTool + ' ';
+
+    // Runs the checker with options in the notation of the shell.
+    static ProgramResult check(const QString &options)
     {
-        const QRegularExpression finding(QStringLiteral(R"(^(\w+): .*\[(.*)\]$)"));
-        return lines.replaceInStrings(finding, QStringLiteral("\\1 \\2")).join(QLatin1String(", "));
-    }
-
-    QString root() const { return QStringLiteral("--web-root=") + device.paths().webRoot; }
-    QString tool() const { return QStringLiteral("--tool=") + device.paths().backendTool; }
-    const QString tree = QStringLiteral("--tree");
-    const QString layout = QStringLiteral("--layout");
-    const QString writeBack = QStringLiteral("--write-back");
-    const QString ask = QStringLiteral("--device");
-    const QString demo = QStringLiteral("--web-root=" SOURCES "/demo/web");
-
-    struct Run {
-        int status; ///< -1 when a signal ended the checker
-        QString output;
-        QString messages;
-    };
-
-    // The output can be read unless it goes to the file `output`.
-    static Run run(const QStringList &arguments, const QString &output = {})
-    {
-        QProcess checker;
-        checker.setStandardOutputFile(output);
-        // A sanitizer would report a crash of the engine by itself.
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("handle_segv=0"));
-        environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-        checker.setProcessEnvironment(environment);
-        checker.start(QStringLiteral(CHECKER), arguments);
-        checker.waitForFinished(int(PtySession::scaled(30000)));
-        const bool hasEnded = checker.exitStatus() == QProcess::NormalExit;
-        return { hasEnded ? checker.exitCode() : -1,
-            QString::fromUtf8(checker.readAllStandardOutput()),
-            QString::fromUtf8(checker.readAllStandardError()) };
+        return runShell("exec " CHECKER " " + options);
     }
 
 private slots:
     void initTestCase() { CTranslationHandler::setInstanceRoot(device.paths().webRoot); }
     void init() { device.setTranslations(translations); }
 
-    void findsFaults_data()
-    {
-        Rows<QString, QString, QString, QString>("problems", "says", "screens", "answers");
-        QFile file(QStringLiteral(SOURCES "/tests/check/faults.md"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QStringList parts = QString::fromUtf8(file.readAll()).split(QStringLiteral("```"));
-        helpers = parts[1].mid(2); // without the fence's "js"
-        const QRegularExpression fault(QStringLiteral("^\\| (?!fault|---)"));
-        const QRegularExpression border(QStringLiteral("[ `]*\\|[ `]*"));
-        for (const QString &line : parts[2].split(QLatin1Char('\n')).filter(fault)) {
-            const QStringList cells = line.split(border);
-            QTest::newRow(qPrintable(cells[1])) << cells[2] << cells[3] << cells[4] << cells[5];
-        }
-    }
     void findsFaults()
     {
-        QFETCH(QString, says);
-        QFETCH(QString, screens);
-        QFETCH(QString, answers);
-        QScriptEngine engine;
-        const QString printed = QStringLiteral("; printed(%1)").arg(answers);
-        const QVariantMap texts = engine.evaluate(helpers + printed).toVariant().toMap();
-        QByteArray commands = "case \"$*\" in\n";
-        for (auto text = texts.cbegin(); text != texts.cend(); ++text)
-            commands += '\'' + text.key().toUtf8() + "') cat <<'END'\n" + text.value().toByteArray()
-                + "\nEND\n;;\n";
-        device.setTool(commands + R"(--version) echo 1.0/2;;
-            *_seal_status) echo '["i18n_wm_true"]';;
-            *_interfaces*) echo '[]';; esac)");
-        device.setScreens(screens.toUtf8(), helpers.toUtf8());
-        const QStringList lines = answers.isEmpty() ? problems() : problemsOnDevice();
-        const QString report = lines.join(QLatin1Char('\n'));
-        QTEST(namesOf(lines), "problems");
-        QVERIFY2(report.contains(says), qPrintable(report));
-        // Each question is asked once; Level has none, and nothing is written.
-        QStringList calls = device.takeCalls();
-        QCOMPARE(calls.removeDuplicates(), 0);
-        QVERIFY(calls
-                    .filter(QRegularExpression(
-                        QStringLiteral("level|enable_if|\\[|^write$|^write.[0-9]|^set")))
-                    .isEmpty());
-        QCOMPARE(calls.isEmpty(), answers.isEmpty());
+        QFile file(SOURCES "/tests/check/faults.md");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QStringList parts = QString::fromUtf8(file.readAll()).split("```");
+        const QString helpers = parts[1].mid(2); // without the fence's "js"
+        const Rows row = [&](const QString &problems, const QString &says, const QString &screens,
+                             const QString &answers) {
+            QScriptEngine engine;
+            const QString printed = QString("; printed(%1)").arg(answers);
+            const QVariantMap texts = engine.evaluate(helpers + printed).toVariant().toMap();
+            QByteArray commands = "case \"$*\" in\n";
+            for (auto text = texts.cbegin(); text != texts.cend(); ++text)
+                commands += '\'' + text.key().toUtf8() + "') cat <<'END'\n"
+                    + text.value().toByteArray() + "\nEND\n;;\n";
+            device.setTool(commands + R"(--version) echo 1.0/2;;
+                *_seal_status) echo '["i18n_wm_true"]';;
+                *_interfaces*) echo '[]';; esac)");
+            device.setScreens(screens.toUtf8(), helpers.toUtf8());
+            const QStringList lines = answers.isEmpty() ? definitionFaults() : deviceFaults();
+            compareFindings(lines, problems, says);
+            // Each question is asked once; Level has none, and nothing is written.
+            QStringList calls = device.takeCalls();
+            QCOMPARE(calls.removeDuplicates(), 0);
+            const QRegularExpression others("level|enable_if|\\[|^write$|^write.[0-9]|^set");
+            QCOMPARE(calls.filter(others), QStringList());
+            QCOMPARE(calls.isEmpty(), answers.isEmpty());
+        };
+        const QRegularExpression fault("^\\| (?!fault|---)");
+        const QRegularExpression border("[ `]*\\|[ `]*");
+        for (const QString &line : parts[2].split('\n').filter(fault)) {
+            const QStringList cells = line.split(border);
+            row(cells[1].toUtf8(), cells[2], cells[3], cells[4], cells[5]);
+        }
     }
 
-    void survivesTools_data()
+    void survivesTools()
     {
-        const Rows<QByteArray, int, QString, QString> row(
-            "commands", "patienceMs", "problems", "says");
+        const Rows row = [this](const QByteArray &commands, const QString &problems,
+                             const QString &says) {
+            device.setTool(commands);
+            compareFindings(deviceFaults(), problems, says);
+        };
+        device.setScreens(oneField);
         const auto onRead = [](const QByteArray &commands) {
             return "[ $1 != read ] && echo '[\"i18n_wm_true\"]' || { " + commands + "; }";
         };
-        row("good", onRead("echo '[1]'"), 9000, "", "");
-        row("crash", "kill -9 $$", 9000, "warning no-tool-version, error no-array, error no-array",
+        row("good", onRead("echo '[1]'"), "", "");
+        row("crash", "kill -9 $$", "warning no-tool-version, error no-array, error no-array",
             "printed nothing; it failed, or does not know these words; signal 9 ended it");
-        row("crash after the answer", onRead("echo '[1]'; kill -9 $$"), 9000, "warning tool-end",
+        row("crash after the answer", onRead("echo '[1]'; kill -9 $$"), "warning tool-end",
             "<read> answered, but signal 9 ended it; end with 0");
-        row("failure", onRead("echo '\n  no such menu\nhelp: -h' >&2; exit 3"), 9000,
-            "error no-array",
+        row("failure", onRead("echo '\n  no such menu\nhelp: -h' >&2; exit 3"), "error no-array",
             "its exit status was 3, it wrote to standard error: \"no such menu\"");
-        row("failure after the answer", onRead("echo '[1]'; exit 3"), 9000, "warning tool-end",
+        row("failure after the answer", onRead("echo '[1]'; exit 3"), "warning tool-end",
             "<read> answered, but its exit status was 3; end with 0");
-        row("warning of a tool that succeeds", onRead("echo '[1]'; echo slow >&2"), 9000, "", "");
-        row("failure after the version", onRead("echo '[1]'") + "; [ $1 != --version ]", 9000,
+        row("warning of a tool that succeeds", onRead("echo '[1]'; echo slow >&2"), "", "");
+        row("failure after the version", onRead("echo '[1]'") + "; [ $1 != --version ]",
             "warning tool-end", "<--version> answered, but its exit status was 1");
-        row("escape sequence", onRead("printf '\\033[1m'"), 9000, "error no-array",
+        row("escape sequence", onRead("printf '\\033[1m'"), "error no-array",
             "the answer begins with \" [1m\"");
-        row("long text", onRead("printf %0100d 0"), 9000, "error no-array",
+        row("long text", onRead("printf %0100d 0"), "error no-array",
             "begins with \"000000000000000000000000000000000000000000000000000000000000...\"");
-        row("without end", onRead("yes"), 9000, "error no-array", "more than 16 MiB");
-        row("Latin-1", onRead("printf '[\"\\344\\344\"]'"), 9000, "warning not-utf8",
+        row("without end", onRead("yes"), "error no-array", "more than 16 MiB");
+        row("Latin-1", onRead("printf '[\"\\344\\344\"]'"), "warning not-utf8",
             "the answer to <read> is not UTF-8 (line 1, byte 3)");
-        row("hang", "sleep 60", 100, "error hanging-call, error hanging-call, error hanging-call",
-            "within 0.1 s");
-        row("not executable any more", "chmod -x $0", 9000, "error no-tool",
+        row("not executable any more", "chmod -x $0", "error no-tool",
             "cannot be started: Permission denied");
     }
-    void survivesTools()
-    {
-        QFETCH(QByteArray, commands);
-        QFETCH(int, patienceMs);
-        QFETCH(QString, says);
-        device.setTool(commands);
-        device.setScreens(oneField);
-        const QStringList lines = problemsOnDevice(patienceMs);
-        QTEST(namesOf(lines), "problems");
-        QVERIFY2(lines.join(QLatin1Char('\n')).contains(says),
-            qPrintable(lines.join(QLatin1Char('\n'))));
-    }
 
-    void reportsSlowCalls()
+    void reportsSlowAndHangingCalls()
     {
+        device.setScreens(oneField);
         device.setTool("[ $1 = read ] && echo '[1]' || echo '[\"i18n_wm_true\"]'");
-        device.setScreens(oneField);
         constexpr int any = -1;
-        QCOMPARE(namesOf(problemsOnDevice(BackendTool::patienceMs, any)),
-            QStringLiteral("warning slow-call, warning slow-call, warning slow-call"));
+        compareFindings(deviceFaults(BackendTool::patienceMs, any),
+            "warning slow-call, warning slow-call, warning slow-call", "");
+        device.setTool("exec sleep 60");
+        compareFindings(deviceFaults(100),
+            "error hanging-call, error hanging-call, error hanging-call", "within 0.1 s");
     }
 
-    void findsToolsThatCannotBeStarted_data()
+    void findsToolsThatCannotBeStarted()
     {
-        const Rows<QByteArray, QString, QString> row("content", "mode", "says");
+        const QTemporaryDir directory;
+        const QString tool = directory.filePath("tool");
+        QVERIFY(toolFault(tool).contains("there is no such file"));
+        const Rows row = [&](const QByteArray &content, const QString &mode, const QString &says) {
+            QFile file(tool);
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+            file.close();
+            runProgram("chmod", { mode, tool });
+            const QString fault = toolFault(tool);
+            QVERIFY2(says.isEmpty() ? fault.isEmpty() : fault.contains(says), qPrintable(fault));
+            if (fault.isEmpty())
+                return;
+            const ProgramResult preview = runProgram(PREVIEW, { "--tool", tool });
+            QCOMPARE(preview.status, 2);
+            QCOMPARE(preview.messages,
+                "dravikon-preview: " + tool + " cannot be started: " + fault + '\n');
+        };
         row("script", "#!/bin/sh\n", "700", "");
         row("script with a blank and an option", "#! /bin/sh -e\n", "700", "");
-        row("no file", "", "", "there is no such file");
         row("empty file", "", "700", "neither a program nor a script");
         row("not executable", "#!/bin/sh\n", "600", "allow it with chmod +x");
         row("no interpreter", "echo '[1]'\n", "700", "neither a program nor a script");
@@ -200,44 +168,28 @@ private slots:
         row("folder as interpreter", "#!/\n", "700", "interpreter \"/\"");
         row("nothing as interpreter", "#!\n", "700", "interpreter \"\"");
     }
-    void findsToolsThatCannotBeStarted()
-    {
-        QFETCH(QByteArray, content);
-        QFETCH(QString, mode);
-        QFETCH(QString, says);
-        const QTemporaryDir directory;
-        const QString path = directory.filePath(QStringLiteral("tool"));
-        QFile file(path);
-        if (!mode.isEmpty()) {
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-            file.close();
-            file.setPermissions(QFile::Permissions(mode.toInt(nullptr, 16)));
-        }
-        const QString fault = toolFault(path);
-        QVERIFY2(says.isEmpty() ? fault.isEmpty() : fault.contains(says), qPrintable(fault));
-    }
 
     void reportsAToolThatCannotBeStartedOnce()
     {
-        QCOMPARE(toolFault(QStringLiteral(CHECKER)), QString());
+        QCOMPARE(toolFault(CHECKER), QString());
         device.setScreens(oneField);
-        const Run made = run({ root(), ask, QStringLiteral("--tool=/") });
+        const ProgramResult made = check(root + "--device --tool=/");
         QCOMPARE(made.status, 1);
         QCOMPARE(made.output,
-            QStringLiteral("error: /: the tool cannot be started: it is no file; "
-                           "correct its path [no-tool]\n"));
+            QString("error: /: the tool cannot be started: it is no file; correct its path "
+                    "[no-tool]\n"));
         QCOMPARE(made.messages, QString());
     }
 
     void documentsEveryFinding()
     {
-        QFile manual(QStringLiteral(SOURCES "/packaging/dravikon-menu-check.1"));
+        QFile manual(SOURCES "/packaging/dravikon-menu-check.1");
         QVERIFY(manual.open(QIODevice::ReadOnly));
         const QString text = QString::fromUtf8(manual.readAll());
         QSet<QString> documented;
-        const QRegularExpression findings(QStringLiteral("\\n\\.It Li ([a-z0-9 ,-]+)"));
+        const QRegularExpression findings("\\n\\.It Li ([a-z0-9 ,-]+)");
         for (auto list = findings.globalMatch(text); list.hasNext();) {
-            const QStringList names = list.next().captured(1).split(QStringLiteral(" , "));
+            const QStringList names = list.next().captured(1).split(" , ");
             documented += QSet<QString>(names.begin(), names.end());
         }
         const QStringList &known = findingNames();
@@ -245,106 +197,95 @@ private slots:
         // Each has a row in the table, here or in the test of --write-back.
         QString tested;
         for (const char *place : { "faults.md", "MenuCheckTest.cpp", "WriteBackTest.cpp" }) {
-            QFile rows(QStringLiteral(SOURCES "/tests/check/") + QLatin1String(place));
+            QFile rows(QString(SOURCES "/tests/check/") + place);
             QVERIFY(rows.open(QIODevice::ReadOnly));
             tested += QString::fromUtf8(rows.readAll());
         }
         for (const QString &name : known) {
-            const QRegularExpression use(QStringLiteral("(error|warning) %1\\b").arg(name));
+            const QRegularExpression use(QString("(error|warning) %1\\b").arg(name));
             QVERIFY2(tested.contains(use), qPrintable(name));
         }
     }
 
-    void findsFaultsOfFiles_data()
+    void findsFaultsOfScripts()
     {
-        const Rows<QByteArray, QByteArray, QString, QString> row(
-            "script", "table", "problems", "says");
-        const QByteArray good = "Settings = {settings: [{css: 'r'}], setupStructureVersion: 1}";
-        const QByteArray text = "// \xc3\xa4\n" + good;
-        row("good", text, "{}", "", "");
-        row("no version", "Settings = {settings: [{css: 'r'}]}", "{}", "warning no-version",
+        const Rows row = [this](const QByteArray &script, const QString &problems,
+                             const QString &says) {
+            device.setScript(script);
+            compareFindings(definitionFaults(), problems, says);
+        };
+        const QByteArray good = goodScript;
+        row("good", "// \xc3\xa4\n" + good, "", "");
+        row("no version", "Settings = {settings: [{css: 'r'}]}", "warning no-version",
             "setupStructureVersion");
-        row("version allowed", "Settings = {settings: [{}], checkIgnore: 'no-version'}", "{}", "",
-            "");
-        row("unknown name of a finding", good + ";Settings.checkIgnore = 'version'", "{}",
+        row("version allowed", "Settings = {settings: [{}], checkIgnore: 'no-version'}", "", "");
+        row("getter", "Settings = {settings: [{get css() {}}], setupStructureVersion: 1}", "", "");
+        row("unknown name of a finding", good + ";Settings.checkIgnore = 'version'",
             "warning unknown-finding", "settings.js: \"checkIgnore\" names \"version\"");
-        row("bracket", "Settings = {\nsettings: [", "{}", "error script",
+        row("bracket", "Settings = {\nsettings: [", "error script",
             "line 2, column 11: Syntax error; correct it, the console shows no menu");
-        row("unknown name", good + ";\nnobody.calls()", "{}", "error script",
+        row("unknown name", good + ";\nnobody.calls()", "error script",
             "line 2: ReferenceError: Can't find variable: nobody; correct it, the console shows "
             "no");
-        row("error in the last line", good + ";\nthrow new Error('x')", "{}", "error script",
+        row("error in the last line", good + ";\nthrow new Error('x')", "error script",
             "line 2: Error: x; correct it, the console shows no menu");
-        row("text thrown in the last line", good + ";\nthrow 'x'", "{}", "error script",
+        row("text thrown in the last line", good + ";\nthrow 'x'", "error script",
             "line 2: x is thrown; correct it, the console ignores what follows");
-        row("error as the last value", good + ";\nnew Error('x')", "{}", "error script",
+        row("error as the last value", good + ";\nnew Error('x')", "error script",
             "settings.js: the script ends with the value Error: x; correct it");
-        row("getter", "Settings = {settings: [{get css() {}}], setupStructureVersion: 1}", "{}", "",
-            "");
-        row("no screens", "Settings = {}", "{}", "error script", "defines no screens");
-        row("Latin-1 in the script", "\n\"\xe4\";" + good, "{}", "warning not-utf8",
+        row("no screens", "Settings = {}", "error script", "defines no screens");
+        row("Latin-1", "\n\"\xe4\";" + good, "warning not-utf8",
             "settings.js: the script is not UTF-8 (line 2, byte 3)");
-        row("byte order mark in the script", "\xef\xbb\xbf" + good, "{}", "", "");
-        row("Latin-1 in the table", good, "{\"a\": \"\xe4\", \"b\": \"\xf6\"}", "warning not-utf8",
-            "translation.json: the table is not UTF-8 (line 1, byte 8)");
-        row("comma", good, "{\"a\": 1,\n\"\xc3\xa4\": 2,}", "error translation-table",
-            "translation.json: line 2, column 8: Missing a name");
-        row("too deep", good, QByteArray(600, '['), "error translation-table",
-            "column 513: A number is too large, or");
-        row("byte order mark", good, "\xef\xbb\xbf{}", "error translation-table",
-            "byte order mark");
-        row("array", good, "[]", "error translation-table", "is no JSON object");
-        row("no table, no word of each text",
-            "Settings = {settings: [{css: 'r', screens: ["
-            "{i18n: 'none', inputType: 'button'}]}], setupStructureVersion: 1}",
-            "", "error translation-table", "line 1, column 1");
-    }
-    void findsFaultsOfFiles()
-    {
-        QFETCH(QByteArray, script);
-        QFETCH(QByteArray, table);
-        QFETCH(QString, says);
-        device.setScript(script);
-        device.setTranslations(table);
-        const QStringList lines = problems();
-        QTEST(namesOf(lines), "problems");
-        QVERIFY2(lines.join(QLatin1Char('\n')).contains(says),
-            qPrintable(lines.join(QLatin1Char('\n'))));
+        row("byte order mark", "\xef\xbb\xbf" + good, "", "");
     }
 
-    void understandsItsCommandLine_data()
+    void findsFaultsOfTables()
     {
-        const Rows<QStringList, int, QString, QString> row(
-            "arguments", "status", "output", "messages");
-        const auto option = [](const char *text) { return QStringList { QLatin1String(text) }; };
-        row("no problem", { demo }, 0, "", "");
-        row("version", option("--version"), 0, "dravikon-menu-check ", "");
-        row("help", option("--help"), 0, "Usage: ", "");
-        row("the demo's menu", { demo, tree }, 0, "->  Truck status\n", "");
-        row("layout", { demo, layout }, 0, "NUMBER is ", "");
-        row("write-back without tool", { demo, writeBack }, 2, "",
-            "dravikon-menu-check: --write-back writes, so name the tool with --tool\n");
-        row("write-back of no tool", { demo, writeBack, QStringLiteral("--tool=/nowhere") }, 2, "",
-            "dravikon-menu-check: /nowhere cannot be started: ");
-        row("two reports", { demo, layout, tree }, 2, "",
-            "dravikon-menu-check: --layout and --write-back go with no other report\n");
-        row("unknown option", option("--bad"), 2, "", "dravikon-menu-check: Unknown option");
-        row("no option", option("bad"), 2, "", "dravikon-menu-check: unexpected bad\n");
-        row("tool alone", option("--tool=x"), 2, "", "dravikon-menu-check: --tool is for --device");
-        row("no definition", option("--web-root=/nowhere"), 2, "",
-            "dravikon-menu-check: cannot load /nowhere/scripts/settings.js: No such file");
+        const Rows row = [this](const QByteArray &table, const QString &problems,
+                             const QString &says) {
+            device.setTranslations(table);
+            compareFindings(definitionFaults(), problems, says);
+        };
+        device.setScript(goodScript);
+        row("Latin-1", "{\"a\": \"\xe4\", \"b\": \"\xf6\"}", "warning not-utf8",
+            "translation.json: the table is not UTF-8 (line 1, byte 8)");
+        row("comma", "{\"a\": 1,\n\"\xc3\xa4\": 2,}", "error translation-table",
+            "translation.json: line 2, column 8: Missing a name");
+        row("too deep", QByteArray(600, '['), "error translation-table",
+            "column 513: A number is too large, or");
+        row("byte order mark", "\xef\xbb\xbf{}", "error translation-table", "byte order mark");
+        row("array", "[]", "error translation-table", "is no JSON object");
+        device.setScreens("[{css: 'r', screens: [{i18n: 'none', inputType: 'button'}]}]");
+        row("none, no word of each text", "", "error translation-table", "line 1, column 1");
     }
+
     void understandsItsCommandLine()
     {
-        QFETCH(QStringList, arguments);
-        QFETCH(QString, output);
-        QFETCH(QString, messages);
-        const Run made = run(arguments);
-        QTEST(made.status, "status");
-        QCOMPARE(made.output.left(output.size()), output);
-        QCOMPARE(made.output.isEmpty(), output.isEmpty());
-        QCOMPARE(made.messages.left(messages.size()), messages);
-        QCOMPARE(made.messages.isEmpty(), messages.isEmpty());
+        const Rows row = [](const QString &options, int status, const QString &output,
+                             const QString &messages) {
+            const ProgramResult made = check(options);
+            QCOMPARE(made.status, status);
+            QCOMPARE(made.output.left(output.size()), output);
+            QCOMPARE(made.output.isEmpty(), output.isEmpty());
+            QCOMPARE(made.messages.left(messages.size()), messages);
+            QCOMPARE(made.messages.isEmpty(), messages.isEmpty());
+        };
+        row("no problem", demo, 0, "", "");
+        row("version", "--version", 0, "dravikon-menu-check ", "");
+        row("help", "--help", 0, "Usage: ", "");
+        row("the demo's menu", demo + "--tree", 0, "->  Truck status\n", "");
+        row("layout", demo + "--layout", 0, "NUMBER is ", "");
+        row("write-back without tool", demo + "--write-back", 2, "",
+            "dravikon-menu-check: --write-back writes, so name the tool with --tool\n");
+        row("write-back of no tool", demo + "--write-back --tool=/nowhere", 2, "",
+            "dravikon-menu-check: /nowhere cannot be started: ");
+        row("two reports", demo + "--layout --tree", 2, "",
+            "dravikon-menu-check: --layout and --write-back go with no other report\n");
+        row("unknown option", "--bad", 2, "", "dravikon-menu-check: Unknown option");
+        row("no option", "bad", 2, "", "dravikon-menu-check: unexpected bad\n");
+        row("tool alone", "--tool=x", 2, "", "dravikon-menu-check: --tool is for --device");
+        row("no definition", "--web-root=/nowhere", 2, "",
+            "dravikon-menu-check: cannot load /nowhere/scripts/settings.js: No such file");
     }
 
     void printsForeignTextWithoutControls()
@@ -358,18 +299,17 @@ private slots:
             " {css: spd, type: 'status', remote: 1}]",
             "var spd = 'btnServiceDiagnoseSpdInterfaces\x1b[5m';");
         device.setTool("printf '\\033[1m'; printf '\\033[6m' >&2");
-        for (const QStringList &mode :
-            { QStringList(), { tree }, { layout }, { ask, tool() }, { ask, tree, tool() } }) {
-            const Run made = run(QStringList(root()) + mode);
+        for (const QString &report :
+            { QString(), QString("--tree"), QString("--layout"), ask, ask + "--tree" }) {
+            const ProgramResult made = check(root + report);
             const QString printed = made.output + made.messages;
-            QVERIFY2(printed.contains(QStringLiteral("x [2J ")), qPrintable(printed));
-            QVERIFY2(!printed.contains(QRegularExpression(QStringLiteral("[\\x{1b}\\x{9b}]"))),
-                qPrintable(printed));
-            const Run lost = run(QStringList(root()) + mode, QStringLiteral("/dev/full"));
+            QVERIFY2(printed.contains("x [2J "), qPrintable(printed));
+            QVERIFY2(
+                !printed.contains(QRegularExpression("[\\x{1b}\\x{9b}]")), qPrintable(printed));
+            const ProgramResult lost = check(root + report + " > /dev/full");
             QCOMPARE(lost.status, 2);
-            QVERIFY(lost.messages.endsWith(
-                QLatin1String("dravikon-menu-check: the output is not complete: No space left on "
-                              "device\n")));
+            QVERIFY(lost.messages.endsWith("dravikon-menu-check: the output is not complete: "
+                                           "No space left on device\n"));
         }
     }
 
@@ -378,7 +318,7 @@ private slots:
         device.setTranslations("{\"field\": \"\xc3\x96l\"}");
         device.setScreens("[{css: 'start', screens: [{css: 'page', i18n: '\xc3\x84'}]},"
                           " {css: 'page', 'ajax-read': 'read', screens: [{i18n: 'field'}]}]");
-        QCOMPARE(run({ root(), tree }).output, QString::fromUtf8("->  Ä\n +   -  Öl\n"));
+        QCOMPARE(check(root + "--tree").output, QString("->  Ä\n +   -  Öl\n"));
     }
 
     void limitsTheTimeOfScripts()
@@ -399,52 +339,30 @@ private slots:
         }
         const WorkEnd end = doInOwnProcess([] { return std::raise(SIGALRM); });
         QVERIFY(end.hasCrashed());
-        QVERIFY(crashText(QStringLiteral("settings.js"), end)
-                    .startsWith(QLatin1String("the script settings.js did not end within 30 s")));
+        QVERIFY(crashText("settings.js", end)
+                    .startsWith("the script settings.js did not end within 30 s"));
     }
 
-    void reportsCrashesOfTheEngine_data()
+    void reportsCrashesOfTheEngine()
     {
-        const Rows<QByteArray> row("script");
+        const Rows row = [this](const QByteArray &script) {
+            device.setScript(script);
+            const ProgramResult made = check(root);
+            if (made.status == 1 && made.output.contains("too deeply"))
+                return QTest::qSkip("this processor's engine does not crash", __FILE__, __LINE__);
+            QCOMPARE(made.status, 3);
+            QCOMPARE(made.output, QString());
+            QCOMPARE(made.messages,
+                QString("dravikon-menu-check: the script engine crashes (signal 11) on %1, and "
+                        "the console with it; avoid endless recursion and deep nesting in the "
+                        "script\n")
+                    .arg(device.paths().settingsScript));
+        };
         const QByteArray crash = "new RegExp(Array(1e5).join('(') + Array(1e5).join(')'))";
         row("script", crash);
         row("getter", "Settings = { settings: [{ get screens() { return " + crash + "; } }] }");
         row("what only the checker reads",
             "Settings = { settings: [{ get checkIgnore() { return " + crash + "; } }] }");
-    }
-    void reportsCrashesOfTheEngine()
-    {
-        QFETCH(QByteArray, script);
-        device.setScript(script);
-        const Run made = run({ root() });
-        if (made.status == 1 && made.output.contains(QLatin1String("too deeply")))
-            return QTest::qSkip("this processor's engine does not crash", __FILE__, __LINE__);
-        QCOMPARE(made.status, 3);
-        QCOMPARE(made.output, QString());
-        QCOMPARE(made.messages,
-            QStringLiteral("dravikon-menu-check: the script engine crashes (signal 11) on %1, and "
-                           "the console with it; avoid endless recursion and deep nesting in the "
-                           "script\n")
-                .arg(device.paths().settingsScript));
-    }
-
-    void endsOnLargeDefinitions_data()
-    {
-        const Rows<QByteArray> row("screens");
-        row("values",
-            "[{css: 'r', screens: [{css: 'a'}]}, {css: 'a', screens: [{inputType: "
-            "'selectlabel', values: {length: 1e5}, dbValues: {length: 1e5}}]}]");
-        row("unreached screens", "many");
-        row("fields without label", "[{screens: many.map(function() { return {}; })}]");
-        row("shared entries", "[{screens: many.map(function() { return {screens: many}; })}]");
-    }
-    void endsOnLargeDefinitions()
-    {
-        QFETCH(QByteArray, screens);
-        device.setScreens(screens,
-            "for (var many = []; many.length < 20000;)"
-            " many.push({css: 's' + many.length});");
-        QCOMPARE(run({ root() }).status, 1); // not that of a script without end
     }
 
     void recordsDevice()
@@ -452,69 +370,62 @@ private slots:
         device.setScreens(oneField);
         // A version is no JSON.
         device.setTool("[ $1 = --version ] && echo 1.0 || echo '[\"i18n_on\"]'");
-        const QStringList record { root(), tree, ask, tool() };
-        const Run complete = run(record);
+        const ProgramResult complete = check(root + ask + "--tree");
         QCOMPARE(complete.status, 0);
-        QCOMPARE(
-            complete.output, QStringLiteral("->  Page\n +   -  Field%1On\n").arg(QString(), 41));
+        QCOMPARE(complete.output, QString("->  Page\n +   -  Field%1On\n").arg(QString(), 41));
         QCOMPARE(complete.messages, QString());
 
         device.setTool("[ $1 = read ] || echo '[1]'");
-        const Run incomplete = run(record);
+        const ProgramResult incomplete = check(root + ask + "--tree");
         QCOMPARE(incomplete.status, 1);
-        QCOMPARE(incomplete.output, QStringLiteral("->  Page\n +   -  Field\n"));
-        QVERIFY(incomplete.messages.startsWith(QLatin1String("<read> printed nothing")));
+        QCOMPARE(incomplete.output, QString("->  Page\n +   -  Field\n"));
+        QVERIFY(incomplete.messages.startsWith("<read> printed nothing"));
     }
 
     void findsNothingOnDemo()
     {
         const QTemporaryDir state;
-        const DevicePaths files { QStringLiteral(SOURCES "/demo/web") };
-        const QString data = QStringLiteral(SOURCES "/demo/device.json");
-        QVERIFY(makeSimulatedDevice(state.path(), QStringLiteral(DEMO), files, data, {}).isEmpty());
+        const DevicePaths files { SOURCES "/demo/web" };
+        const QString data = SOURCES "/demo/device.json";
+        QVERIFY(makeSimulatedDevice(state.path(), DEMO, files, data, {}).isEmpty());
         PtySession session;
-        const QString tool = QStringLiteral("--tool=") + simulatedTool(state.path());
-        session.setStandardError(QStringLiteral("/dev/tty"));
-        QVERIFY(session.start(QStringLiteral(CHECKER), { demo, ask, tool }, 24, 80));
+        session.setStandardError("/dev/tty");
+        QVERIFY(session.start(CHECKER,
+            { "--web-root", files.webRoot, "--device", "--tool", simulatedTool(state.path()) }, 24,
+            80));
         QCOMPARE(session.waitForExit(), (ExitStatus { ExitStatus::Exited, 0 }));
         QVERIFY(session.bytesSinceMark().contains("K4: get_menu truck_status\r"));
         // The progress is gone; what is left are the slowest five calls.
-        const QRegularExpression slowest(QStringLiteral(
-            R"(^63 calls in \d{1,3}\.\d s, the slowest:\n( {4}\d\.\d{3} s  .+\n){5}\s*$)"));
-        QVERIFY(session.terminal().screen().join(QLatin1Char('\n')).contains(slowest));
+        const QRegularExpression slowest(
+            R"(^63 calls in \d{1,3}\.\d s, the slowest:\n( {4}\d\.\d{3} s  .+\n){5}\s*$)");
+        QVERIFY(session.terminal().screen().join('\n').contains(slowest));
     }
 
-    void endsWithItsTool_data()
-    {
-        const Rows<QByteArray, int> row("key", "number");
-        row("Ctrl-C", "\x03", SIGINT);
-        row("Ctrl-\\", "\x1c", SIGQUIT);
-        row("hang-up", "", SIGHUP);
-        row("SIGTERM", "", SIGTERM);
-        row("SIGKILL", "", SIGKILL);
-    }
     void endsWithItsTool()
     {
-        QFETCH(QByteArray, key);
-        QFETCH(int, number);
         device.setScreens(oneField);
         device.setTool("echo $$ >> \"${0%/*}/calls\"; exec sleep 60");
-        PtySession session;
-        session.setStandardError(QStringLiteral("/dev/tty"));
-        QVERIFY(session.start(QStringLiteral(CHECKER), { root(), ask, tool() }, 24, 30));
-        QVERIFY(session.waitForText(QStringLiteral("1: get_menu_electronic_seal_s")));
-        QCOMPARE(session.terminal().row(1), QString()); // cut to the terminal's width
-        QStringList calls { QString() };
-        QVERIFY(session.waitFor([&] { return (calls += device.takeCalls()).last().toInt() > 0; }));
-        if (!key.isEmpty())
-            QVERIFY(session.send(key));
-        else if (number == SIGHUP)
-            session.hangUp();
-        else
-            session.signal(number);
-        QCOMPARE(session.waitForExit(), (ExitStatus { ExitStatus::Killed, number }));
-        const QString program = QStringLiteral("/proc/%1/exe").arg(calls.last());
-        QVERIFY(session.waitFor([&] { return !QFileInfo::exists(program); }));
+        const Rows row = [this](int number) {
+            PtySession session;
+            session.setStandardError("/dev/tty");
+            QVERIFY(session.start(CHECKER,
+                { "--web-root", device.paths().webRoot, "--device", "--tool",
+                    device.paths().backendTool },
+                24, 30));
+            QVERIFY(session.waitForText("1: get_menu_electronic_seal_s"));
+            QCOMPARE(session.terminal().row(1), QString()); // cut to the terminal's width
+            QStringList calls { QString() };
+            QVERIFY(
+                session.waitFor([&] { return (calls += device.takeCalls()).last().toInt() > 0; }));
+            endBy(number, session);
+            QCOMPARE(session.waitForExit(), (ExitStatus { ExitStatus::Killed, number }));
+            const QString program = QString("/proc/%1/exe").arg(calls.last());
+            QVERIFY(session.waitFor([&] { return !QFileInfo::exists(program); }));
+        };
+        row("Ctrl-C", SIGINT);
+        row("hang-up", SIGHUP);
+        row("SIGTERM", SIGTERM);
+        row("SIGKILL", SIGKILL);
     }
 };
 

@@ -1,11 +1,11 @@
 // Plays random keys, sizes and faults of the tool against the console and checks its screen after
 // each. DRAVIKON_TEST_SESSIONS, _KEYS and _SEED in the environment ask for others than the usual.
 #include "tests/e2e/Session.h"
-#include "tests/support/Rows.h"
+#include "tests/support/Chance.h"
 #include "tests/support/ScreenNotation.h"
+#include "tests/support/SourceFile.h"
 
 #include <QDir>
-#include <QRandomGenerator>
 
 #include <csignal>
 
@@ -47,7 +47,7 @@ QByteArray randomKey(QRandomGenerator &random)
     // Bytes of the line discipline, of quitting and the one that begins a sequence stay out.
     static const QByteArray excluded("\x03\x11\x13\x1a\x1b\x1cqQ");
     if (random.bounded(4) != 0)
-        return keys.at(random.bounded(keys.size()));
+        return oneOf(keys, random);
     const char byte = char(random.bounded(256));
     return excluded.contains(byte) ? QByteArray("x") : QByteArray(1, byte);
 }
@@ -69,8 +69,8 @@ class RandomSessions : public QObject {
     bool hasBars()
     {
         const QString header =
-            QStringLiteral("Quenstadel").left(size.width() > 10 ? 10 : size.width() - 1);
-        const QString title = QStringLiteral("Dravikon ver").left(size.width() - 1).trimmed();
+            QString("Quenstadel").left(size.width() > 10 ? 10 : size.width() - 1);
+        const QString title = QString("Dravikon ver").left(size.width() - 1).trimmed();
         return session->waitFor([&] {
             return (size.height() == 1 || session->terminal().row(0) == header)
                 && session->terminal().row(size.height() - 1).startsWith(title);
@@ -78,39 +78,29 @@ class RandomSessions : public QObject {
     }
 
 private slots:
-    void staySound_data()
-    {
-        const Rows<int> row("seed");
-        const int sessions =
-            qEnvironmentVariable("DRAVIKON_TEST_SESSIONS", QStringLiteral("6")).toInt();
-        const int seed = qEnvironmentVariable("DRAVIKON_TEST_SEED", QStringLiteral("1")).toInt();
-        for (int i = seed; i < seed + sessions; ++i)
-            row("seed " + QByteArray::number(i), i);
-    }
+    void staySound_data() { addSeeds(setting("DRAVIKON_TEST_SESSIONS", 6)); }
 
     void staySound()
     {
         QFETCH(int, seed);
         QRandomGenerator random { quint32(seed) };
         session = std::make_unique<Session>();
-        QFile script(QStringLiteral(SOURCES "/demo/web/scripts/settings.js"));
-        QVERIFY(script.open(QIODevice::ReadOnly));
-        session->device.setScript(script.readAll());
+        session->device.setScript(sourceFile("demo/web/scripts/settings.js"));
         session->device.setTool(tool);
         size = { 80, 24 };
         QVERIFY(session->run() && session->hasTitle());
         const auto descriptors = [this] {
-            const QDir folder(QStringLiteral("/proc/%1/fd").arg(session->pid()));
+            const QDir folder(QString("/proc/%1/fd").arg(session->pid()));
             return folder.entryList(QDir::Files | QDir::System).size();
         };
         const int ownDescriptors = descriptors();
-        const int steps = qEnvironmentVariable("DRAVIKON_TEST_KEYS", QStringLiteral("150")).toInt();
+        const int steps = setting("DRAVIKON_TEST_KEYS", 150);
         QByteArray fault = "none";
-        QFile faultFile(session->device.paths().webRoot + QStringLiteral("/fault"));
-        for (int step = 0, rare = seed; step < steps; ++step) {
+        QFile faultFile(session->device.paths().webRoot + "/fault");
+        for (int step = 0; step < steps; ++step) {
             switch (random.bounded(40)) {
             case 0:
-                fault = faults[random.bounded(int(std::size(faults)))];
+                fault = oneOf(faults, random);
                 QVERIFY(faultFile.open(QIODevice::WriteOnly) && faultFile.write(fault) > 0);
                 faultFile.close();
                 session->signal(SIGWINCH);
@@ -120,7 +110,7 @@ private slots:
                     { 1 + random.bounded(random.bounded(2) ? 200 : 20), 1 + random.bounded(60) });
                 break;
             case 2:
-                resize(rareSizes[size_t(rare++) % std::size(rareSizes)]);
+                resize(oneOf(rareSizes, random));
                 break;
             default:
                 QVERIFY(session->press({ randomKey(random) }));
@@ -145,7 +135,7 @@ private slots:
     void cleanup()
     {
         if (QTest::currentTestFailed())
-            qWarning().noquote() << notationOfScreen(session->terminal()).join(QLatin1Char('\n'))
+            qWarning().noquote() << notationOfScreen(session->terminal()).join('\n')
                                  << session->messages().right(4000);
         session.reset();
     }

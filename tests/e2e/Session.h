@@ -5,9 +5,9 @@
 #include "terminal/PtySession.h"
 #include "tests/support/FakeDevice.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 
-const QString console = QStringLiteral(TEST_SESSION);
 const ExitStatus endedWell = { ExitStatus::Exited, 0 };
 
 const QByteArray screens =
@@ -37,6 +37,7 @@ const QByteArrayList keysToDiagnoseScreen = { Key::down, Key::enter, Key::down, 
 class Session : public PtySession {
 public:
     FakeDevice device;
+    QElapsedTimer sinceStart;
 
     Session()
     {
@@ -51,7 +52,8 @@ public:
     bool run(int rows = 24, int columns = 80, int idleMs = 180000)
     {
         setStandardError(messagePath());
-        return PtySession::start(console, arguments(idleMs), rows, columns);
+        sinceStart.start();
+        return PtySession::start(TEST_SESSION, arguments(idleMs), rows, columns);
     }
 
     bool start(int idleMs = 180000) { return run(24, 80, idleMs) && hasTitle(); }
@@ -59,18 +61,32 @@ public:
     /// Runs a command of the shell, for which "$@" starts the console.
     bool startBy(const QString &command, int idleMs = 180000)
     {
-        const QStringList words { QStringLiteral("-c"), command, QStringLiteral("bash"), console };
-        return PtySession::start(QStringLiteral("/bin/bash"), words + arguments(idleMs), 24, 80);
+        sinceStart.start();
+        return PtySession::start("/bin/bash",
+            QStringList { "-c", command, "bash", TEST_SESSION } + arguments(idleMs), 24, 80);
     }
 
     /// Waits for the title bar of the first frame.
-    bool hasTitle() { return waitForText(QStringLiteral("Drav")); }
+    bool hasTitle() { return waitForText("Drav"); }
+
+    /// Waits until the screen is drawn again since the last mark.
+    bool waitForRedraw()
+    {
+        return waitFor([this] { return bytesSinceMark().contains("Drav"); });
+    }
 
     /// Presses all keys, one by one.
     bool press(const QByteArrayList &keys)
     {
         return std::all_of(keys.begin(), keys.end(),
             [this](const QByteArray &key) { return PtySession::press(key); });
+    }
+
+    /// Sends the key that ends the session, and returns how it ended.
+    ExitStatus endBy(const QByteArray &key)
+    {
+        send(key);
+        return waitForExit();
     }
 
     /// Waits until the tool was called with these arguments, joined by "|", since the last
@@ -100,5 +116,5 @@ private:
         return { paths.webRoot, paths.settingsScript, paths.backendTool, QString::number(idleMs) };
     }
 
-    QString messagePath() const { return device.paths().webRoot + QStringLiteral("/messages"); }
+    QString messagePath() const { return device.paths().webRoot + "/messages"; }
 };

@@ -4,10 +4,9 @@
 #include "tests/e2e/Session.h"
 #include "tests/support/Rows.h"
 #include "tests/support/RunProgram.h"
+#include "tests/support/SourceFile.h"
 
 #include <Version.h>
-
-#include <csignal>
 
 // They open and close what there is, or do nothing.
 const QByteArrayList keysOfAnyMenu = { Key::enter, Key::down, Key::enter, Key::enter, Key::pageDown,
@@ -17,63 +16,55 @@ class SessionTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void commandLine_data()
-    {
-        const QByteArray usage = "\nDravikon usage:\n==========================\n"
-                                 "    -h or when wrong parameter this usage\n"
-                                 "    --version version of this binary\n\n";
-        const QByteArray version =
-            "Tavrolink-Dravikon-Version: " + QByteArray(consoleVersion.data()) + '\n';
-        const Rows<QString, int, QByteArray> row("words", "status", "output");
-        row("version", "--version", 255, version);
-        row("help", "-h", 255, usage);
-        row("unknown word", "--Version", 255, usage);
-        row("version as the second word", "-x --version", 255, usage);
-        row("full disk", "--version >/dev/full", 2, "");
-    }
-
     void commandLine()
     {
-        QFETCH(QString, words);
-        QFETCH(int, status);
-        const ProgramResult result = runProgram(QStringLiteral("/bin/sh"),
-            { QStringLiteral("-c"), QStringLiteral("exec " CONSOLE " ") + words });
-        QCOMPARE(result.end, (ExitStatus { ExitStatus::Exited, status }));
-        QTEST(result.output, "output");
-    }
-
-    void documentedDefaults_data()
-    {
-        const Rows<QString, QByteArray> row("manual", "sentence");
-        const DevicePaths paths;
-        const QByteArray patience = QByteArray::number(BackendTool::patienceMs / 1000);
-        const QByteArray idleMs = QByteArray::number(SessionOptions().idleMs);
-        row("menu definition", "dravikon.1",
-            ".It Pa " + paths.settingsScript.toUtf8() + " the menu definition");
-        row("English texts", "dravikon.1",
-            ".It Pa " + paths.webRoot.toUtf8() + "/locales/en/translation.json the English texts");
-        row("backend tool", "dravikon.1",
-            ".It Pa " + paths.backendTool.toUtf8() + " the backend tool");
-        row("patience with the tool", "dravikon.1",
-            "a tool that takes longer than " + patience + " seconds is killed");
-        row("idle time", "dravikon-preview.1",
-            "milliseconds without a key; without it, " + idleMs + '.');
+        const QString usage = "\nDravikon usage:\n==========================\n"
+                              "    -h or when wrong parameter this usage\n"
+                              "    --version version of this binary\n\n";
+        const QString version = QString("Tavrolink-Dravikon-Version: %1\n").arg(consoleVersion);
+        const Rows row = [](const QStringList &words, const QString &output) {
+            const ProgramResult result = runProgram(CONSOLE, words);
+            QCOMPARE(result.status, 255);
+            QCOMPARE(result.output, output);
+        };
+        row("version", { "--version" }, version);
+        row("help", { "-h" }, usage);
+        row("unknown word", { "--Version" }, usage);
+        row("version as the second word", { "-x", "--version" }, usage);
     }
 
     // What nobody can set has the value that the manual pages name.
     void documentedDefaults()
     {
-        QFETCH(QString, manual);
-        QFETCH(QByteArray, sentence);
-        QFile file(QStringLiteral(SOURCES "/packaging/") + manual);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QVERIFY2(file.readAll().simplified().contains(sentence), sentence.constData());
+        const DevicePaths paths;
+        const QByteArray patience = QByteArray::number(BackendTool::patienceMs / 1000);
+        const QByteArray idleMs = QByteArray::number(SessionOptions().idleMs);
+        const QByteArray manuals =
+            (sourceFile("packaging/dravikon.1") + sourceFile("packaging/dravikon-preview.1"))
+                .simplified();
+        for (const QByteArray &sentence :
+            { ".It Pa " + paths.settingsScript.toUtf8() + " the menu definition",
+                ".It Pa " + paths.webRoot.toUtf8()
+                    + "/locales/en/translation.json the English texts",
+                ".It Pa " + paths.backendTool.toUtf8() + " the backend tool",
+                "a tool that takes longer than " + patience + " seconds is killed",
+                "milliseconds without a key; without it, " + idleMs + '.' })
+            QVERIFY2(manuals.contains(sentence), sentence.constData());
     }
 
-    void badDays_data()
+    void badDays()
     {
-        const Rows<QByteArray, QByteArray, QByteArray, QString> row(
-            "script", "tool", "translations", "message");
+        const Rows row = [](const QByteArray &script, const QByteArray &tool,
+                             const QByteArray &translations, const QString &message) {
+            Session session;
+            session.device.setScript(script);
+            session.device.setTool(tool);
+            session.device.setTranslations(translations);
+            QVERIFY(session.start() && session.press(keysOfAnyMenu));
+            QCOMPARE(session.terminal().row(0), "Quenstadel");
+            QVERIFY(session.messages().contains(message));
+            QCOMPARE(session.endBy("q"), endedWell);
+        };
         row("thrown error", script + "\nthrow new Error('boo')", goodTool, "[]",
             R"(isError()) "lineNumber" "8")");
         row("control characters", script, R"(printf 'x\033[2J\377\000[')",
@@ -82,33 +73,15 @@ private slots:
             "Loading translation map for \"en\" failed");
     }
 
-    void badDays()
-    {
-        QFETCH(QByteArray, script);
-        QFETCH(QByteArray, tool);
-        QFETCH(QByteArray, translations);
-        QFETCH(QString, message);
-        Session session;
-        session.device.setScript(script);
-        session.device.setTool(tool);
-        session.device.setTranslations(translations);
-        QVERIFY(session.start() && session.press(keysOfAnyMenu));
-        QCOMPARE(session.terminal().row(0), QStringLiteral("Quenstadel"));
-        QVERIFY(session.messages().contains(message));
-        QVERIFY(session.press({ "q" }));
-        QCOMPARE(session.waitForExit(), endedWell);
-    }
-
     void noFiles()
     {
         Session session;
         QVERIFY(QFile::remove(session.device.paths().backendTool));
         QVERIFY(QFile::remove(session.device.paths().settingsScript));
         QVERIFY(session.start() && session.press(keysOfAnyMenu));
-        QCOMPARE(session.terminal().row(0), QStringLiteral("Quenstadel"));
-        QVERIFY(!session.messages().contains(QStringLiteral("settings script")));
-        QVERIFY(session.press({ "q" }));
-        QCOMPARE(session.waitForExit(), endedWell);
+        QCOMPARE(session.terminal().row(0), "Quenstadel");
+        QVERIFY(!session.messages().contains("settings script"));
+        QCOMPARE(session.endBy("q"), endedWell);
     }
 
     void goneReader()
@@ -116,33 +89,27 @@ private slots:
         Session session;
         session.device.setScript("throw 5");
         // Messages go to a pipe that nobody reads any more.
-        QVERIFY(session.startBy(
-            QStringLiteral("mkfifo $2/m; : < $2/m & exec 2> $2/m; wait; exec \"$@\"")));
-        QVERIFY(session.waitForText(QStringLiteral("Dravikon ver")) && session.send("q"));
-        QCOMPARE(session.waitForExit(), endedWell);
-    }
-
-    void terminalWithoutSize_data()
-    {
-        const Rows<int, int> row("rows", "columns");
-        row("none", 0, 0);
-        row("no rows", 0, 132);
-        row("no columns", 50, 0);
+        QVERIFY(session.startBy("mkfifo $2/m; : < $2/m & exec 2> $2/m; wait; exec \"$@\""));
+        QVERIFY(session.hasTitle());
+        QCOMPARE(session.endBy("q"), endedWell);
     }
 
     // It counts as one of 24 rows and 80 columns.
     void terminalWithoutSize()
     {
-        QFETCH(int, rows);
-        QFETCH(int, columns);
-        Session session;
-        QVERIFY(session.start() && session.press(keysToDiagnoseScreen) && session.waitForRest());
-        const QStringList before = session.terminal().screen();
-        session.mark();
-        session.setSize(rows, columns);
-        QVERIFY(session.waitFor([&] { return session.bytesSinceMark().contains("Drav"); }));
-        QVERIFY(session.waitForRest());
-        QCOMPARE(session.terminal().screen(), before);
+        const Rows row = [](int rows, int columns) {
+            Session session;
+            QVERIFY(
+                session.start() && session.press(keysToDiagnoseScreen) && session.waitForRest());
+            const QStringList before = session.terminal().screen();
+            session.mark();
+            session.setSize(rows, columns);
+            QVERIFY(session.waitForRedraw() && session.waitForRest());
+            QCOMPARE(session.terminal().screen(), before);
+        };
+        row("none", 0, 0);
+        row("no rows", 0, 132);
+        row("no columns", 50, 0);
     }
 
     void resizeWhileToolRuns()
@@ -152,20 +119,23 @@ private slots:
             "until [ -e \"${0%/*}/go\" ]; do sleep 0.01; done; echo '[\"Emma\",true,[]]'"));
         QVERIFY(session.start() && session.waitForRest());
         session.device.takeCalls();
-        QVERIFY(session.send(Key::enter) && session.waitForCall(QStringLiteral("get|truck")));
+        QVERIFY(session.send(Key::enter) && session.waitForCall("get|truck"));
         session.signal(SIGWINCH);
-        QFile go(session.device.paths().webRoot + QStringLiteral("/go"));
+        QFile go(session.device.paths().webRoot + "/go");
         QVERIFY(go.open(QIODevice::WriteOnly) && session.waitForRest());
         // The key is finished before the redraw, which begins with a question for the version.
         QCOMPARE(session.device.takeCalls(),
-            QStringList({ QStringLiteral("get_menu_electronic_seal_status"),
-                QStringLiteral("--version"), QStringLiteral("get_menu_electronic_seal_status"),
-                QStringLiteral("get|truck") }));
+            QStringList({ "get_menu_electronic_seal_status", "--version",
+                "get_menu_electronic_seal_status", "get|truck" }));
     }
 
-    void keysTogether_data()
+    void keysTogether()
     {
-        const Rows<QByteArray, QByteArray, QString> row("tool", "keys", "call");
+        const Rows row = [](const QByteArray &tool, const QByteArray &keys, const QString &call) {
+            Session session;
+            session.device.setTool(tool);
+            QVERIFY(session.start() && session.send(keys) && session.waitForCall(call));
+        };
         const QByteArray edit = keysToEditField.join();
         row("200 keys", goodTool, (Key::down + Key::up).repeated(100) + "\n", "get|truck");
         row("while the tool runs", "sleep 0.1; " + goodTool, edit + "Eva\n",
@@ -173,29 +143,14 @@ private slots:
         row("paste", goodTool, edit + "5~O\n", R"(set|truck|["Emma5~O",true])");
     }
 
-    void keysTogether()
-    {
-        QFETCH(QByteArray, tool);
-        QFETCH(QByteArray, keys);
-        QFETCH(QString, call);
-        Session session;
-        session.device.setTool(tool);
-        QVERIFY(session.start() && session.send(keys) && session.waitForCall(call));
-    }
-
-    void endAmongKeys_data()
-    {
-        const Rows<QByteArray> row("keys");
-        row("Q", Key::down + 'Q' + Key::enter);
-        row("Ctrl-C", keysToEditField.join() + Key::interrupt + Key::enter);
-    }
-
     void endAmongKeys()
     {
-        QFETCH(QByteArray, keys);
-        Session session;
-        QVERIFY(session.start() && session.send(keys));
-        QCOMPARE(session.waitForExit(), endedWell);
+        for (const QByteArray &keys : { Key::down + 'Q' + Key::enter,
+                 keysToEditField.join() + Key::interrupt + Key::enter }) {
+            Session session;
+            QVERIFY(session.start());
+            QCOMPARE(session.endBy(keys), endedWell);
+        }
     }
 
     // Each key acts, but few of their frames are written.
@@ -214,10 +169,9 @@ private slots:
         QVERIFY(session.waitForRest());
         QCOMPARE(session.device.takeCalls(),
             QStringList(
-                { QStringLiteral("get|truck"), QStringLiteral("get_menu_electronic_seal_status"),
-                    QStringLiteral("get_menu_electronic_seal_status"), QStringLiteral("get|truck"),
-                    QStringLiteral("get_menu_electronic_seal_status") }));
-        QVERIFY(session.terminal().row(2).endsWith(QStringLiteral(" Emma")));
+                { "get|truck", "get_menu_electronic_seal_status", "get_menu_electronic_seal_status",
+                    "get|truck", "get_menu_electronic_seal_status" }));
+        QVERIFY(session.terminal().row(2).endsWith(" Emma"));
         QVERIFY2(
             frame > 0 && session.bytesSinceMark().size() < 10 * frame, session.bytesSinceMark());
         const QStringList shown = session.terminal().screen();
@@ -240,11 +194,11 @@ private slots:
                 QVERIFY(session.isAtRest());
                 session.mark();
                 session.resize(24, 70 + split);
-                QVERIFY(session.waitFor([&] { return session.bytesSinceMark().contains("Drav"); }));
-                QVERIFY(session.waitForRest() && session.press({ key.mid(split) }));
+                QVERIFY(session.waitForRedraw() && session.waitForRest());
+                QVERIFY(session.press({ key.mid(split) }));
             }
         }
-        QVERIFY(session.press({ Key::enter }) && session.waitForCall(QStringLiteral("get|truck")));
+        QVERIFY(session.press({ Key::enter }) && session.waitForCall("get|truck"));
     }
 
     void steadyMemory()
@@ -255,7 +209,7 @@ private slots:
         Session session;
         QVERIFY(session.start());
         const auto residentKib = [&session] {
-            QFile status(QStringLiteral("/proc/%1/statm").arg(session.pid()));
+            QFile status(QString("/proc/%1/statm").arg(session.pid()));
             return status.open(QIODevice::ReadOnly)
                 ? status.readAll().split(' ').value(1).toInt() * 4
                 : 0;

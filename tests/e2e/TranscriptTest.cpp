@@ -9,12 +9,12 @@
 
 namespace {
 
-const QString indentation = QStringLiteral("    ");
-const QRegularExpression opening(QStringLiteral("^    (menu|translations|tool|>) (.*)$"));
+const QString indentation = "    ";
+const QRegularExpression opening("^    (menu|translations|tool|>) (.*)$");
 
 void print(const QString &title, const QStringList &lines = {})
 {
-    std::puts((QStringList(title) + lines).join(QStringLiteral("\n    ")).toUtf8().constData());
+    std::puts((QStringList(title) + lines).join("\n    ").toUtf8().constData());
 }
 
 bool isProse(const QString &line)
@@ -37,14 +37,14 @@ std::optional<QStringList> play(
     TranscriptPlayer &player, const TranscriptEntry &entry, const QString &place, bool rewrites)
 {
     const QString error = player.play(entry);
-    const QStringList seen = entry.word == QLatin1String(">") ? player.outcome() : entry.further;
+    const QStringList seen = entry.word == ">" ? player.outcome() : entry.further;
     if (error.isEmpty() && (rewrites || seen == entry.further))
         return seen;
-    print(place + (error.isEmpty() ? QStringLiteral("something else came of it") : error));
-    print(QStringLiteral("expected:"), entry.further);
-    print(QStringLiteral("seen:"), QStringList(entry.word + QLatin1Char(' ') + entry.text) + seen);
-    print(QStringLiteral("the whole screen:"), player.screen());
-    print(QStringLiteral("The notation is described in tests/e2e/README.md."));
+    print(place + (error.isEmpty() ? "something else came of it" : error));
+    print("expected:", entry.further);
+    print("seen:", QStringList(entry.word + ' ' + entry.text) + seen);
+    print("the whole screen:", player.screen());
+    print("The notation is described in tests/e2e/README.md.");
     return std::nullopt;
 }
 
@@ -54,18 +54,18 @@ bool check(const QString &path, bool rewrites)
     QFile file(path);
     QStringList lines;
     if (file.open(QIODevice::ReadOnly))
-        lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
+        lines = QString::fromUtf8(file.readAll()).split('\n');
     file.close();
     TranscriptPlayer player;
     QStringList written;
     for (int i = 0; i < lines.size(); ++i) {
         const QString &line = lines.at(i);
-        const QString place = QStringLiteral("\n%1:%2: ").arg(path).arg(i + 1);
+        const QString place = QString("\n%1:%2: ").arg(path).arg(i + 1);
         written += line;
         if (isProse(line))
             continue;
         if (!line.startsWith(indentation)) {
-            print(place + QStringLiteral("indented by less than four blanks"));
+            print(place + "indented by less than four blanks");
             return false;
         }
         const auto seen = play(player, takeEntry(lines, i), place, rewrites);
@@ -75,8 +75,8 @@ bool check(const QString &path, bool rewrites)
             written += indentation + line;
     }
     if (!player.isStarted())
-        print(path + QStringLiteral(": no transcript, nothing was started"));
-    const QByteArray text = written.join(QLatin1Char('\n')).toUtf8();
+        print(path + ": no transcript, nothing was started");
+    const QByteArray text = written.join('\n').toUtf8();
     return player.isStarted()
         && (!rewrites || (file.open(QIODevice::WriteOnly) && file.write(text) == text.size()));
 }
@@ -88,10 +88,10 @@ int main(int argc, char **argv)
     QStringList files;
     for (int i = 1; i < argc; ++i)
         files += QFile::decodeName(argv[i]);
-    const bool rewrites = files.removeAll(QStringLiteral("--rewrite")) > 0;
+    const bool rewrites = files.removeAll("--rewrite") > 0;
     int bad = 0;
     for (const QString &file : files)
         bad += check(file, rewrites) ? 0 : 1;
-    print(QStringLiteral("%1 transcripts, %2 bad").arg(files.size()).arg(bad));
+    print(QString("%1 transcripts, %2 bad").arg(files.size()).arg(bad));
     return files.isEmpty() || bad > 0 ? 1 : 0;
 }

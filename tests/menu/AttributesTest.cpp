@@ -17,9 +17,13 @@ class AttributesTest : public QObject {
     }
 
 private slots:
-    void label_data()
+    void label()
     {
-        const Rows<QByteArray, QByteArray, QString> row("definition", "entry", "label");
+        const Rows row = [this](const QByteArray &definition, const QByteArray &entry,
+                             const QString &label) {
+            setItem(definition, entry);
+            QCOMPARE(menu.labelKey(*item), label);
+        };
         row("own", "i18n: 'own'", "i18n: 'entry'", "own");
         row("of the entry", "i18n: '', css: 'aShow'", "i18n: 'entry'", "entry");
         row("compartment", "css: 'aShow'", "", "compartment");
@@ -27,17 +31,13 @@ private slots:
         row("name", "css: 'Shown'", "css: 'a'", "Shown");
     }
 
-    void label()
+    void visibility()
     {
-        QFETCH(QByteArray, definition);
-        QFETCH(QByteArray, entry);
-        setItem(definition, entry);
-        QTEST(menu.labelKey(*item), "label");
-    }
-
-    void visibility_data()
-    {
-        const Rows<QByteArray, QByteArray, bool> row("definition", "entry", "visible");
+        const Rows row = [this](const QByteArray &definition, const QByteArray &entry,
+                             bool isVisible) {
+            setItem(definition, entry);
+            QCOMPARE(menu.isVisible(*item), isVisible);
+        };
         row("hidden by itself", "remote: 0", "remote: 1", false);
         row("shown in spite of its entry", "remote: 2", "remote: 0", true);
         row("type, and shown by itself", "type: 'btn', remote: 1", "remote: 0", true);
@@ -56,29 +56,17 @@ private slots:
         row("loading plans", "css: 'btnLoadingplans'", "", true);
     }
 
-    void visibility()
+    void editable()
     {
-        QFETCH(QByteArray, definition);
-        QFETCH(QByteArray, entry);
-        setItem(definition, entry);
-        QTEST(menu.isVisible(*item), "visible");
-    }
-
-    void editable_data()
-    {
-        const Rows<QByteArray, bool> row("inputType", "editable");
+        const Rows row = [this](const QByteArray &inputType, bool isEditable) {
+            setItem("inputType: '" + inputType + '\'');
+            QCOMPARE(menu.isEditable(*item), isEditable);
+            item->addChild({}, {}, -1);
+            QVERIFY(!menu.isEditable(*item));
+        };
         row("edit", "edit", true);
         row("input of the web interface", "input", false);
         row("upper case", "Edit", false);
-    }
-
-    void editable()
-    {
-        QFETCH(QByteArray, inputType);
-        setItem("inputType: '" + inputType + '\'');
-        QTEST(menu.isEditable(*item), "editable");
-        item->addChild({}, {}, -1);
-        QVERIFY(!menu.isEditable(*item));
     }
 
     void interfaceOfAnotherType()
@@ -103,22 +91,18 @@ private slots:
         QCOMPARE(menu.valueCount(*item), 100000);
     }
 
-    void codes_data()
+    void codes()
     {
-        const Rows<QByteArray, QString> row("code", "written");
+        const Rows row = [this](const QByteArray &code, const QString &written) {
+            setItem("dbValues: [0, " + code + ']');
+            QCOMPARE(ScriptHelper::variantListToJson({ menu.databaseValueAt(*item, 1) }), written);
+        };
         row("fraction", "2.5", "[2.5]");
         row("beyond 2^53", "9007199254740994", "[9007199254740994]");
         row("lowest of 64 bits", "-9223372036854775808", "[-9223372036854775808]");
         row("highest of 64 bits", "18446744073709549568", "[18446744073709549568]");
         row("beyond 64 bits", "18446744073709551616", "[18446744073709551616.0]");
         row("text", "'1'", "[\"1\"]");
-    }
-
-    void codes()
-    {
-        QFETCH(QByteArray, code);
-        setItem("dbValues: [0, " + code + ']');
-        QTEST(ScriptHelper::variantListToJson({ menu.databaseValueAt(*item, 1) }), "written");
     }
 
     void placeOfCode()

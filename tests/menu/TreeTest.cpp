@@ -22,13 +22,13 @@ function meterCount(answer) { return {css: 'btnParameterInterfacesCanFasWm', 'aj
 // "name(children)", with the number of the compartment or meter after the name.
 static QString outline(const TreeViewItem &item)
 {
-    QString text = item.definition.property(QStringLiteral("css")).toString()
-        + item.definition.property(QStringLiteral("i18n")).toString();
+    QString text =
+        item.definition.property("css").toString() + item.definition.property("i18n").toString();
     if (item.index >= 0)
         text += QString::number(item.index);
     for (const auto &child : item.children)
         text += QLatin1Char(child->position == 0 ? '(' : ' ') + outline(*child);
-    return item.children.empty() ? text : text + QLatin1Char(')');
+    return item.children.empty() ? text : text + ')';
 }
 
 static void openAll(TreeViewItem &item)
@@ -81,9 +81,13 @@ private slots:
         CTranslationHandler::setInstanceRoot(device.paths().webRoot);
     }
 
-    void screens_data()
+    void screens()
     {
-        const Rows<QByteArray, QString, QString> row("screens", "tree", "warning");
+        const Rows row = [this](const QByteArray &screens, const QString &tree,
+                             const QString &warning) {
+            build("var Settings = {settings: " + screens + "};", warning);
+            QCOMPARE(outline(*root), tree);
+        };
         row("in their order", "[screen('r', [field('F'), to('a'), field('G')]), screen('a', [])]",
             "r(F a G)", "");
         row("unknown reference", "[screen('r', [to('gone'), field('F')])]", "r(F)", "");
@@ -139,18 +143,14 @@ private slots:
             "^!ajaxRead.isValid\\(\\)$");
     }
 
-    void screens()
+    void scripts()
     {
-        QFETCH(QByteArray, screens);
-        QFETCH(QString, warning);
-        build("var Settings = {settings: " + screens + "};", warning);
-        QTEST(outline(*root), "tree");
-    }
-
-    void scripts_data()
-    {
-        const Rows<QByteArray, QString, QString, QString> row(
-            "script", "tree", "version", "warning");
+        const Rows row = [this](const QByteArray &script, const QString &tree,
+                             const QString &version, const QString &warning) {
+            build(script, warning);
+            QCOMPARE(outline(*root), tree);
+            QCOMPARE(handler->setupStructureVersion(), version);
+        };
         row("version", "var Settings = {setupStructureVersion: 7, settings: [to('r')]};", "r", "7",
             "");
         row("no version", "var Settings = {settings: [to('r')]};", "r", "", "");
@@ -179,18 +179,13 @@ private slots:
             "r(F)", "", "");
     }
 
-    void scripts()
+    void growth()
     {
-        QFETCH(QByteArray, script);
-        QFETCH(QString, warning);
-        build(script, warning);
-        QTEST(outline(*root), "tree");
-        QTEST(handler->setupStructureVersion(), "version");
-    }
-
-    void growth_data()
-    {
-        const Rows<QByteArray, int, QString> row("script", "items", "warning");
+        const Rows row = [this](const QByteArray &script, int count, const QString &warning) {
+            build(script + "var Settings = {settings: screens};", warning);
+            QCOMPARE(items.size(), count);
+            QVERIFY(warnings.size() <= 1);
+        };
         row("many screens",
             "var screens = [screen('r', [])];"
             "for (var i = 0; i < 100000; i++) { screens.push(to(i)); "
@@ -208,15 +203,6 @@ private slots:
             "var screens = [screen('r', [to(0)])];"
             "for (var i = 0; i < 5000; i++) screens.push(screen(i, [to(i + 1)]));",
             1000, "too large");
-    }
-
-    void growth()
-    {
-        QFETCH(QByteArray, script);
-        QFETCH(QString, warning);
-        build(script + "var Settings = {settings: screens};", warning);
-        QTEST(items.size(), "items");
-        QVERIFY(warnings.size() <= 1);
     }
 };
 

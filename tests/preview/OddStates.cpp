@@ -6,12 +6,11 @@
 #include "preview/DeviceFromMenu.h"
 #include "preview/SimulatedTool.h"
 #include "render/Line.h"
-
-#include <QRandomGenerator>
-#include <QTemporaryDir>
-#include <QtTest>
+#include "tests/support/Chance.h"
 
 namespace {
+
+constexpr int statesOfSession = 100;
 
 struct NoLine : Line {
     void write(const QByteArray &) override { }
@@ -33,32 +32,30 @@ const Qt::Key keys[] = { Qt::Key_Return, Qt::Key_Return, Qt::Key_Return, Qt::Key
 // Damages one place in `value`: it becomes odd or goes, or one comes again.
 void damage(QVariant &value, QRandomGenerator &random)
 {
-    const bool goesOn = random.bounded(6) != 0;
-    if (value.type() == QVariant::Map && !value.toMap().isEmpty()) {
-        QVariantMap map = value.toMap();
+    enum Change { Odd, Gone, Again };
+    const int change = random.bounded(18); // the others: further within
+    QVariantMap map = value.toMap();
+    QVariantList list = value.toList();
+    if (change == Odd || (map.isEmpty() && list.isEmpty())) {
+        value = oneOf(oddValues, random);
+    } else if (!map.isEmpty()) {
         const auto entry = std::next(map.begin(), random.bounded(map.size()));
-        const int change = random.bounded(3);
-        if (goesOn)
-            damage(*entry, random);
-        else if (change == 0)
+        if (change == Gone)
             map.erase(entry);
+        else if (change == Again)
+            map.insert(entry.key() + " 0", entry.value());
         else
-            map.insert(change == 1 ? entry.key() : entry.key() + QLatin1String(" 0"),
-                oddValues.at(random.bounded(oddValues.size())));
+            damage(*entry, random);
         value = map;
-    } else if (value.type() == QVariant::List && !value.toList().isEmpty()) {
-        QVariantList list = value.toList();
-        const int place = random.bounded(list.size());
-        const int change = random.bounded(3);
-        if (goesOn)
-            damage(list[place], random);
-        else if (change == 0)
-            list.removeAt(place);
-        else
-            list.insert(place, QVariant(list.at(random.bounded(list.size()))));
-        value = list;
     } else {
-        value = oddValues.at(random.bounded(oddValues.size()));
+        const int place = random.bounded(list.size());
+        if (change == Gone)
+            list.removeAt(place);
+        else if (change == Again)
+            list.insert(place, QVariant(list.at(place)));
+        else
+            damage(list[place], random);
+        value = list;
     }
 }
 
@@ -67,11 +64,10 @@ void damage(QVariant &value, QRandomGenerator &random)
 class OddStates : public QObject {
     Q_OBJECT
 
-    const QTemporaryDir directory;
-    const QString file = stateFile(directory.path());
-    const DevicePaths demo { QStringLiteral(SOURCES "/demo/web") };
+    const DevicePaths demo { SOURCES "/demo/web" };
+    DeviceState state;
     const ToolRunner tool = [this](const QStringList &arguments) {
-        return simulatedAnswer(directory.path(), arguments);
+        return simulatedAnswer(state, arguments, [] { return true; });
     };
     TreeViewItemHandler menu { demo, tool };
     NoLine line;
@@ -79,12 +75,12 @@ class OddStates : public QObject {
     // Random keys seldom come to them.
     void showInterfaces(const TreeViewItem &item)
     {
-        ViewState state;
+        ViewState view;
         const InterfaceKind kind = menu.diagnoseScreen(item);
         if (kind != NoInterface)
             menu.enableInterface(kind, true);
         for (int times = 0; kind != NoInterface && times < 3; ++times)
-            diagnoseScreen(state, menu, &item);
+            diagnoseScreen(view, menu, &item);
         for (const auto &child : item.children)
             showInterfaces(*child);
     }
@@ -92,44 +88,37 @@ class OddStates : public QObject {
 private slots:
     void staySound_data()
     {
-        QTest::addColumn<int>("states");
-        constexpr int session = 100;
-        int left = qEnvironmentVariable("DRAVIKON_TEST_STATES", QStringLiteral("20")).toInt();
-        int seed = qEnvironmentVariable("DRAVIKON_TEST_SEED", QStringLiteral("1")).toInt();
-        for (; left > 0; left -= session, ++seed)
-            QTest::newRow("seed " + QByteArray::number(seed)) << qMin(left, session);
+        addSeeds(setting("DRAVIKON_TEST_STATES", statesOfSession) / statesOfSession);
     }
 
     void staySound()
     {
-        QFETCH(int, states);
+        QFETCH(int, seed);
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-        const QByteArray seed = QByteArray(QTest::currentDataTag()).split(' ').last();
-        QRandomGenerator random { seed.toUInt() };
-        const auto values = loadState(QStringLiteral(SOURCES "/demo/device.json"));
-        const DeviceState whole = deviceFromMenu(demo, *values, { 2, 1, true });
-        const QVariant sound = *parseJson(stateJson(whole));
-        QVERIFY(saveState(file, whole));
+        QRandomGenerator random { quint32(seed) };
+        const auto values = loadState(SOURCES "/demo/device.json");
+        state = deviceFromMenu(demo, *values, { 2, 1, true });
+        const QVariant sound = *parseJson(stateJson(state));
         TerminalGui gui(demo, line, tool);
         gui.initTerminal();
         const auto root = menu.build();
-        for (int number = 0; number < states; ++number) {
+        for (int number = 0; number < statesOfSession; ++number) {
             QVariant damaged = sound;
             for (int places = 1 + random.bounded(8); places > 0; --places)
                 damage(damaged, random);
-            const auto state = stateFromJson(deviceJson(damaged));
-            if (!state)
+            const auto edited = stateFromJson(deviceJson(damaged));
+            if (!edited)
                 continue; // it is no object any more
             // The file is edited during a session, sometimes before a start.
             const bool isStart = random.bounded(10) == 0;
-            QVERIFY(saveState(file, isStart ? deviceFromMenu(demo, *state, {}) : *state));
+            state = isStart ? deviceFromMenu(demo, *edited, {}) : *edited;
             for (int count = 0; count < 15; ++count)
-                gui.processKeyEvent(keys[random.bounded(int(std::size(keys)))]);
+                gui.processKeyEvent(oneOf(keys, random));
             if (number % 4 == 0)
                 showInterfaces(*root);
-            const QByteArray answer = tool({ QStringLiteral("get_menu display") });
+            const QByteArray answer = tool({ "get_menu display" });
             QVERIFY2(answer.isEmpty() || parseJson(answer), answer);
-            QVERIFY(loadState(file).has_value());
+            QVERIFY(stateFromJson(stateJson(state)));
         }
     }
 };

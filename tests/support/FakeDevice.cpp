@@ -15,12 +15,12 @@ void writeFile(const QString &path, const QByteArray &content)
 } // namespace
 
 FakeDevice::FakeDevice()
-    : devicePaths { directory.path(), directory.filePath(QStringLiteral("scripts/settings.js")),
-        directory.filePath(QStringLiteral("tool")) }
+    : devicePaths { directory.path(), directory.filePath("scripts/settings.js"),
+        directory.filePath("tool") }
 {
     const QDir webRoot(directory.path());
-    webRoot.mkpath(QStringLiteral("locales/en"));
-    webRoot.mkpath(QStringLiteral("scripts"));
+    webRoot.mkpath("locales/en");
+    webRoot.mkpath("scripts");
     setTool(":");
 }
 
@@ -37,7 +37,7 @@ void FakeDevice::setScreens(const QByteArray &screens, const QByteArray &helpers
 void FakeDevice::setTool(const QByteArray &commands)
 {
     // Written anew and moved into place: a file that is being written cannot be run.
-    const QString draft = directory.filePath(QStringLiteral("draft"));
+    const QString draft = directory.filePath("draft");
     writeFile(draft,
         "#!/bin/sh\n(IFS='|'; printf '%s\\n' \"$*\") >> \"${0%/*}/calls\"\n" + commands + '\n');
     QFile::setPermissions(draft, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
@@ -47,16 +47,16 @@ void FakeDevice::setTool(const QByteArray &commands)
 
 void FakeDevice::setTranslations(const QByteArray &json)
 {
-    writeFile(directory.filePath(QStringLiteral("locales/en/translation.json")), json);
+    writeFile(directory.filePath("locales/en/translation.json"), json);
 }
 
 QStringList FakeDevice::takeCalls()
 {
-    QFile log(directory.filePath(QStringLiteral("calls")));
+    QFile log(directory.filePath("calls"));
     if (!log.open(QIODevice::ReadOnly))
         return {};
     log.seek(callsTaken);
     const QString text = QString::fromUtf8(log.readAll());
     callsTaken = log.pos();
-    return text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    return text.split('\n', Qt::SkipEmptyParts);
 }

@@ -5,22 +5,21 @@
 // Colours, with their columns unless the whole row has one, and the text cursor.
 static QString remarksOn(const TerminalEmulator &terminal, int row, const QString &colours)
 {
-    static const QStringList names { QStringLiteral("red"), QStringLiteral("green"),
-        QStringLiteral("blue"), QStringLiteral("magenta") };
+    static const QStringList names { "red", "green", "blue", "magenta" };
     QStringList remarks;
     for (int first = 0, next = 0; first < colours.size(); first = next) {
-        const QString name = names.value(
-            QStringLiteral("rgbm").indexOf(colours.at(first)), QStringLiteral("other colour"));
+        const QString name =
+            names.value(QString("rgbm").indexOf(colours.at(first)), "other colour");
         while (next < colours.size() && colours.at(next) == colours.at(first))
             ++next;
-        if (colours.at(first) != QLatin1Char('.'))
+        if (colours.at(first) != '.')
             remarks += next - first == colours.size()
                 ? name
-                : QStringLiteral("%1 %2-%3").arg(name).arg(first + 1).arg(next);
+                : QString("%1 %2-%3").arg(name).arg(first + 1).arg(next);
     }
     if (terminal.cursorVisible() && terminal.cursor().y() == row)
-        remarks += QStringLiteral("cursor %1").arg(terminal.cursor().x() + 1);
-    return QLatin1String(remarks.isEmpty() ? "" : "  <- ") + remarks.join(QStringLiteral(", "));
+        remarks += QString("cursor %1").arg(terminal.cursor().x() + 1);
+    return QLatin1String(remarks.isEmpty() ? "" : "  <- ") + remarks.join(", ");
 }
 
 // A row without its number.
@@ -28,8 +27,8 @@ static QString notationOfRow(const TerminalEmulator &terminal, int row)
 {
     // The expectations outlive a version.
     QString text = terminal.row(row);
-    text.replace(QLatin1String("ver: ") + consoleVersion, QLatin1String("ver: VERSION"));
-    return QStringLiteral(" :") + text + remarksOn(terminal, row, terminal.backgrounds(row));
+    text.replace("ver: " + consoleVersion, "ver: VERSION");
+    return " :" + text + remarksOn(terminal, row, terminal.backgrounds(row));
 }
 
 QStringList notationOfRows(const TerminalEmulator &terminal, const std::set<int> &rows)
@@ -43,7 +42,7 @@ QStringList notationOfRows(const TerminalEmulator &terminal, const std::set<int>
             ++last;
         QString number = QString::number(first + 1);
         if (last > first)
-            number += QLatin1Char('-') + QString::number(last + 1);
+            number += '-' + QString::number(last + 1);
         lines += number.rightJustified(6) + notation;
     }
     return lines;
