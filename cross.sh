@@ -7,10 +7,11 @@ help() {
     cat <<'END'
 Usage: ./cross.sh [armhf|arm64] [--package] [--help]
 
-On Debian 12, makes a sysroot with the board's libraries in build/sysroot/ARCH,
-cross-compiles the release in build/ARCH and runs all tests with the board's
-executables under QEMU. The default architecture is armhf. An existing sysroot
-is used again; remove it to make a new one.
+On Debian 12 or 13, makes a sysroot with the board's libraries, of the same
+release as this machine, in build/sysroot/ARCH, cross-compiles the release in
+build/ARCH and runs all tests with the board's executables under QEMU. The
+default architecture is armhf. An existing sysroot is used again; remove it to
+make a new one.
 
   --package  also make the board's Debian package, in build/ARCH/package
 
@@ -36,7 +37,7 @@ esac
 
 cd "$(dirname "$0")"
 cmake/install-missing.sh "g++-$triplet" cmake ninja-build pkg-config qtbase5-dev-tools \
-    mmdebstrap uidmap dpkg-dev file qemu-user-static
+    mmdebstrap mount uidmap dpkg-dev file qemu-user-static
 sysroot=$PWD/build/sysroot/$arch
 
 if [[ ! -d $sysroot ]]; then

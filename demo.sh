@@ -8,7 +8,7 @@ help() {
 Usage: ./demo.sh [--state DIR] [--idle MS] [--trace FILE] [--web-root DIR] [--help]
 
 Opens the Dravikon console on a simulated truck controller, in this terminal. On
-Debian 12 it first installs the packages that the build needs (with sudo when
+Debian 12 or 13 it first installs the packages that the build needs (with sudo when
 you are not root), and builds the demo and dravikon-menu-check in build/release.
 
   --state DIR  keep the device's state in DIR and continue from there next time;
@@ -25,13 +25,15 @@ Keys in the menu
   Up, Down, PgUp, PgDn   move the selection
   Return                 open or close a screen "->", change a value "*",
                          show an interface "$"; nothing on "-" and "#"
-  q, Q                   end (only here, not in a dialog)
+  q, Q                   end (only here, not in a dialog); so does F2 on many
+                         terminals, as its sequence ends with Q
   "+" marks the first line of an opened screen.
 
 Keys in a dialog
   Up, Down               choose from a list
   Left, Right            move the slider, or the cursor in a text
-  Backspace              erase the character before the cursor
+  Backspace              erase the character before the cursor, at the start of
+                         a text the first one
   Return                 write the value to the device
   Esc Esc                leave without a change
 
@@ -45,7 +47,7 @@ Keys on an interface screen
   any other key          fresh values
   Esc Esc                leave
 
-Ctrl-C ends the session at any time.
+Ctrl-C ends the session at any time. Values are read when a screen is opened.
 
 A tour
   Lists, on and off      Parameters, Display and sound: Volume unit, Night mode

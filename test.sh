@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Builds Dravikon and runs all its tests. With --full it also checks the format of the sources, runs
-# the tests with sanitizers, the fuzz target and the linters. Installs what is missing for that.
+# Builds Dravikon and runs all its tests. With --full it also tries the documents' commands, checks
+# the format of the sources, runs the tests with sanitizers, the fuzz target and the linters. Installs
+# what is missing for that.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -21,6 +22,9 @@ cmake/install-missing.sh g++ cmake ninja-build pkg-config \
     qtbase5-dev qtscript5-dev rapidjson-dev libvterm-dev
 build_and_test dev
 [ $# = 1 ] || exit 0
+
+echo "== documents"
+docs/check.sh build/dev
 
 cmake/install-missing.sh git clang clang-format clang-tidy cppcheck
 cmake/install-missing.sh "libclang-rt-$(clang -dumpversion | cut -d. -f1)-dev"

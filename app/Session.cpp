@@ -7,41 +7,46 @@
 #include "app/TerminalLine.h"
 #include "app/TerminalReader.h"
 #include "locale/CTranslationHandler.h"
+#include "platform/StandardDescriptors.h"
 
 #include <QCoreApplication>
 
 #include <Version.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <memory>
 
 namespace {
 
 constexpr int noSession = -1;
+constexpr int notPrinted = 2;
 constexpr int exitToShellStatus = 80;
 
-void print(const QByteArray &text)
+// Returns the exit status.
+int print(const QByteArray &text)
 {
-    std::fputs(text.constData(), stdout);
-    std::fflush(stdout);
+    if (std::fputs(text.constData(), stdout) >= 0 && std::fflush(stdout) == 0)
+        return noSession;
+    qCritical("The text cannot be written: %s", std::strerror(errno));
+    return notPrinted;
 }
 
 int printVersion()
 {
-    print("Tavrolink-Dravikon-Version: " + QByteArray(consoleVersion.data()) + '\n');
-    return noSession;
+    return print("Tavrolink-Dravikon-Version: " + QByteArray(consoleVersion.data()) + '\n');
 }
 
 int printUsage()
 {
-    print("\n"
-          "Dravikon usage:\n"
-          "==========================\n"
-          "    -h or when wrong parameter this usage\n"
-          "    --version version of this binary\n"
-          "\n");
-    return noSession;
+    return print("\n"
+                 "Dravikon usage:\n"
+                 "==========================\n"
+                 "    -h or when wrong parameter this usage\n"
+                 "    --version version of this binary\n"
+                 "\n");
 }
 
 int runConsole(const SessionOptions &options)
@@ -71,6 +76,7 @@ int runConsole(const SessionOptions &options)
 
 int runSession(int &argc, char **argv, const SessionOptions &options)
 {
+    openStandardDescriptors();
     installEndingHandlers();
     const QCoreApplication application(argc, argv);
     installMessageLog();

@@ -42,12 +42,15 @@ private:
 };
 
 // No SA_RESTART: a blocked read or write must return and notice the end of the session. SIGWINCH is
-// unblocked while the reader waits; it must not interrupt another handler with a redraw.
+// unblocked while the reader waits; it must not interrupt another handler with a redraw. Of signals
+// that came while the program was stopped, those that end the session are handled before SIGCONT.
 bool setHandler(int number, void (*handler)(int))
 {
     struct sigaction action = {};
     action.sa_handler = handler;
     action.sa_mask = signalSet({ SIGWINCH });
+    if (number == SIGINT || number == SIGALRM)
+        sigaddset(&action.sa_mask, SIGCONT);
     return sigaction(number, &action, nullptr) == 0;
 }
 
@@ -120,6 +123,8 @@ void onContinue(int)
 {
     const ErrnoKeeper keeper;
     stopped = false;
+    if (isSessionEnding())
+        return;
     continued = true;
     TerminalMode::resume();
     raise(SIGWINCH);

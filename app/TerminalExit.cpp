@@ -14,8 +14,7 @@ constexpr char lastRowSequence[] = "\x1b[0m\x1b[999H\x1b[K\x1b[?25h";
 
 template <size_t size> void leave(const char (&text)[size]) noexcept
 {
-    const pid_t foreground = tcgetpgrp(STDIN_FILENO);
-    if (!TerminalMode::isActive() || (foreground > 0 && foreground != getpgrp()))
+    if (!TerminalMode::isActive())
         return;
     tcflush(STDOUT_FILENO, TCOFLUSH);
     TerminalMode::restore();

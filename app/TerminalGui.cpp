@@ -22,7 +22,8 @@ TerminalGui::TerminalGui(const DevicePaths &paths, Line &line, const ToolRunner 
 TerminalGui::~TerminalGui()
 {
     TerminalMode::restore();
-    screen.leave();
+    if (TerminalMode::isActive())
+        screen.leave();
 }
 
 void TerminalGui::updateWindowSize()

@@ -18,7 +18,7 @@ public:
     /// `runTool` replaces running the backend tool.
     TerminalGui(const DevicePaths &paths, Line &line, const ToolRunner &runTool = {});
 
-    /// Restores the terminal and leaves it cleared.
+    /// Restores the terminal and leaves it cleared, unless a shell has it.
     ~TerminalGui() override;
 
     /// Takes over the size of the terminal, 80 x 24 if it reports none.

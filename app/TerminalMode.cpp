@@ -23,13 +23,14 @@ TerminalMode::~TerminalMode()
 
 bool TerminalMode::isActive() noexcept
 {
-    return current;
+    const pid_t foreground = tcgetpgrp(STDIN_FILENO);
+    return current && (foreground <= 0 || foreground == getpgrp());
 }
 
 void TerminalMode::restore() noexcept
 {
-    if (const TerminalMode *const mode = current)
-        tcsetattr(STDIN_FILENO, TCSANOW, &mode->savedTermios);
+    if (isActive())
+        tcsetattr(STDIN_FILENO, TCSANOW, &current.load()->savedTermios);
 }
 
 void TerminalMode::resume() noexcept

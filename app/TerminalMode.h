@@ -13,10 +13,11 @@ public:
     ~TerminalMode();
     Q_DISABLE_COPY(TerminalMode)
 
-    /// True while a TerminalMode exists. Async-signal-safe.
+    /// True while a TerminalMode exists and no shell has the terminal. Async-signal-safe.
     static bool isActive() noexcept;
 
-    /// Restores the former attributes. Async-signal-safe; a second call changes nothing.
+    /// Restores the former attributes, unless a shell has the terminal. Async-signal-safe; a second
+    /// call changes nothing.
     static void restore() noexcept;
 
     /// Switches again after `restore`. Async-signal-safe; without effect while no TerminalMode

@@ -18,3 +18,9 @@ inline QVector<QScriptValue> entriesOf(const QScriptValue &list, const PropertyN
     }
     return entries;
 }
+
+inline bool hasEntries(const QScriptValue &list, const PropertyNames &names)
+{
+    return list.isArray() ? list.property(names.length).toInteger() > 0
+                          : !entriesOf(list, names).isEmpty();
+}

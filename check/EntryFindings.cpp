@@ -41,7 +41,7 @@ Findings fieldEntryFindings(const TreeViewItemHandler &handler, const TreeViewIt
 {
     const QScriptValue screens = item.definition.property(handler.names().screens);
     const bool isField = item.parentItem && !item.referringEntry.isValid();
-    if (!isField || entriesOf(screens, handler.names()).isEmpty())
+    if (!isField || !hasEntries(screens, handler.names()))
         return {};
     return { error("entry-screens",
         "its \"screens\" are never shown, as it is a field; define a screen with a css, and refer "

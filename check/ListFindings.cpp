@@ -7,6 +7,8 @@
 #include "render/MenuView.h"
 #include "render/ViewState.h"
 
+#include <QSet>
+
 #include <cmath>
 
 namespace {
@@ -15,29 +17,32 @@ namespace {
 Findings databaseValueFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
     const int count = handler.valueCount(item);
-    const int databaseCount = item.definition.property(handler.names().dbValues)
-                                  .property(handler.names().length)
-                                  .toInt32();
+    const QScriptValue values = item.definition.property(handler.names().dbValues);
+    const int databaseCount = values.property(handler.names().length).toInt32();
     if (databaseCount != count) {
         return { error("value-count",
             "there are %1 \"values\" but %2 \"dbValues\"; give each text its value", count,
             databaseCount) };
     }
     Findings findings;
+    QSet<QString> earlierTexts;
     for (int i = 0; i < count; ++i) {
-        const QVariant value = handler.databaseValueAt(item, i);
-        if (textOf(value).isEmpty()) {
+        const QString text = textOf(handler.databaseValueAt(item, i));
+        if (text.isEmpty()) {
             findings << warning("empty-value",
                 "entry %1 of its \"dbValues\" is empty, and an empty value shows nothing; give the "
                 "text a value that is none",
                 i + 1);
         }
-        if (handler.indexOfDatabaseValue(item, value) != i) {
+        const bool isMissing = !values.property(quint32(i)).isValid();
+        if (isMissing || earlierTexts.contains(text)) {
             findings << error("equal-values",
                 "\"dbValues\" has \"%1\" more than once, so only the first of its texts is ever "
                 "shown; give each text a value of its own",
-                textOf(value));
+                text);
         }
+        if (!isMissing)
+            earlierTexts += text;
     }
     return findings;
 }

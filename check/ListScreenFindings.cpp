@@ -11,7 +11,7 @@ Findings listScreenFindings(const LoadedMenu &menu, const TreeViewItem &item)
     const QScriptValue entries = item.definition.property(names.screens);
     const QString repeated = repeatedScreenName(item.definition.property(names.css).toString());
     if (isRepeatedScreen(item.definition, names)) {
-        if (entriesOf(entries, names).isEmpty())
+        if (!hasEntries(entries, names))
             return {};
         return { warning("list-screen",
             "the entries of its \"screens\" are ignored, as a list of compartments or meters "
@@ -32,14 +32,14 @@ Findings listScreenFindings(const LoadedMenu &menu, const TreeViewItem &item)
         repeated) };
 }
 
-bool isMeantForRepetition(const LoadedMenu &menu, const QString &css)
+QSet<QString> repeatedScreens(const LoadedMenu &menu)
 {
+    const PropertyNames &names = menu.handler.names();
+    QSet<QString> repeated;
     for (int i = 0; i < menu.screens.size(); ++i) {
         const QScriptValue &screen = menu.screens.at(i);
-        const QString name = screen.property(menu.handler.names().css).toString();
-        if (repeatedScreenName(name) == css
-            && isCompartmentOrMeterButton(screen, menu.handler.names()))
-            return true;
+        if (isCompartmentOrMeterButton(screen, names))
+            repeated += repeatedScreenName(screen.property(names.css).toString());
     }
-    return false;
+    return repeated;
 }

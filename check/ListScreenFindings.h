@@ -4,8 +4,10 @@
 #include "check/Finding.h"
 #include "check/LoadedMenu.h"
 
+#include <QSet>
+
 /// A list screen whose "screens" is missing or has entries.
 Findings listScreenFindings(const LoadedMenu &menu, const TreeViewItem &item);
 
-/// True if a list screen would repeat the screen `css`, were its "screens" empty.
-bool isMeantForRepetition(const LoadedMenu &menu, const QString &css);
+/// The css of each screen that a list screen repeats, or would repeat, were its "screens" empty.
+QSet<QString> repeatedScreens(const LoadedMenu &menu);

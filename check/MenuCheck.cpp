@@ -20,6 +20,7 @@
 #include "check/TextFindings.h"
 #include "check/TypeFindings.h"
 #include "check/WordFindings.h"
+#include "menu/RepeatedScreen.h"
 
 #include <QSet>
 
@@ -48,6 +49,7 @@ public:
         , handler(menu.handler)
         , names(handler.names())
         , words(menu)
+        , repeated(repeatedScreens(menu))
     {
     }
 
@@ -73,7 +75,7 @@ private:
         if (!item.definition.isObject())
             return;
         addDefinition(item);
-        report.add(item, selfReferenceFindings(menu, item));
+        report.add(item, selfReferenceFindings(menu, item, ledBackTo));
         report.add(item, fieldEntryFindings(handler, item));
         report.add(item, listScreenFindings(menu, item));
         report.add(item, typeFindings(handler, item));
@@ -94,8 +96,14 @@ private:
     // What concerns also a screen that is nowhere in the tree.
     void addDefinition(const TreeViewItem &item)
     {
-        report.add(item, entryFindings(menu, item.definition));
-        report.add(item, referenceFindings(menu, item.definition));
+        const QScriptValue entries = item.definition.property(names.screens);
+        // Of entries that several screens share, the first one is reported.
+        const bool areKnown = entries.isObject() && knownEntries.contains(entries.objectId());
+        knownEntries += entries.objectId();
+        if (!areKnown)
+            report.add(item, entryFindings(menu, item.definition));
+        if (!areKnown || isRepeatedScreen(item.definition, names))
+            report.add(item, referenceFindings(menu, item.definition));
         report.add(item, spellingFindings(handler, item));
         report.add(item, nameFindings(item.definition));
     }
@@ -116,7 +124,7 @@ private:
         const TreeViewItem item(definition, {}, nullptr, -1, 0);
         report.add(item, countScreenFindings(menu, screen));
         if (!reached.contains(id)) {
-            report.add(item, unreachedFindings(menu, screen));
+            report.add(item, unreachedFindings(menu, screen, repeated));
             addDefinition(item);
         } else if (!decided.contains(id)) {
             report.add(item, hiddenReadFindings(handler, item));
@@ -128,7 +136,10 @@ private:
     const TreeViewItemHandler &handler;
     const PropertyNames &names;
     const CallWords words;
+    const QSet<QString> repeated; ///< the css of the screens that lists repeat
     QSet<qint64> reached; ///< definitions that are in the tree
+    QSet<qint64> knownEntries; ///< the "screens" that have been walked
+    QSet<QString> ledBackTo; ///< the css of the screens with a self-reference
     QSet<qint64> decided; ///< those of them that are shown, or hidden by a word of the definition
 };
 

@@ -1,6 +1,5 @@
 #include "check/ReferenceFindings.h"
 
-#include "check/ListScreenFindings.h"
 #include "menu/RepeatedScreen.h"
 
 #include <QScriptValueIterator>
@@ -24,11 +23,13 @@ QStringList references(const LoadedMenu &menu, const QScriptValue &definition)
     return targets;
 }
 
-bool isWithin(const TreeViewItem *item, const QScriptValue &screen)
+// The definitions of `item` and of the screens above it.
+QSet<qint64> wayTo(const TreeViewItem *item)
 {
-    while (item && !item->definition.strictlyEquals(screen))
-        item = item->parentItem;
-    return item;
+    QSet<qint64> definitions;
+    for (; item; item = item->parentItem)
+        definitions += item->definition.objectId();
+    return definitions;
 }
 
 } // namespace
@@ -49,12 +50,19 @@ Findings referenceFindings(const LoadedMenu &menu, const QScriptValue &definitio
     return findings;
 }
 
-Findings selfReferenceFindings(const LoadedMenu &menu, const TreeViewItem &item)
+Findings selfReferenceFindings(
+    const LoadedMenu &menu, const TreeViewItem &item, QSet<QString> &known)
 {
+    const bool isField = item.parentItem && !item.referringEntry.isValid();
+    if (isField) // whose entries are never shown
+        return {};
     Findings findings;
+    const QSet<qint64> way = wayTo(&item);
     for (const QString &css : references(menu, item.definition)) {
         const int screen = menu.screens.find(css);
-        if (screen >= 0 && isWithin(&item, menu.screens.at(screen))) {
+        if (screen >= 0 && way.contains(menu.screens.at(screen).objectId())
+            && !known.contains(css)) {
+            known += css;
             findings << error("self-reference",
                 "it leads back to \"%1\", which it is part of; remove the reference", css);
         }
@@ -62,7 +70,7 @@ Findings selfReferenceFindings(const LoadedMenu &menu, const TreeViewItem &item)
     return findings;
 }
 
-Findings unreachedFindings(const LoadedMenu &menu, int screen)
+Findings unreachedFindings(const LoadedMenu &menu, int screen, const QSet<QString> &repeated)
 {
     const QScriptValue css = menu.screens.at(screen).property(menu.handler.names().css);
     if (css.isValid() && menu.screens.find(css.toString()) != screen) {
@@ -70,7 +78,7 @@ Findings unreachedFindings(const LoadedMenu &menu, int screen)
             "an earlier screen has the same css and is shown instead; rename this") };
     }
     // What is wrong then is reported of the list screen.
-    if (isMeantForRepetition(menu, css.toString()))
+    if (repeated.contains(css.toString()))
         return {};
     return { warning("unreached",
         "nothing leads to this screen; name its css in the \"screens\" of another, or remove it") };

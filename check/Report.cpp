@@ -43,7 +43,7 @@ bool Report::isReported(const Finding &finding, const QStringList &allowed) cons
     return !followsFromTable && !allowed.contains(finding.name);
 }
 
-QString Report::wayTo(const TreeViewItem &item, int instance) const
+QString Report::wayTo(const TreeViewItem &item, int instance)
 {
     QString screen;
     QStringList labels;
@@ -58,7 +58,7 @@ QString Report::wayTo(const TreeViewItem &item, int instance) const
         + labels.join(QLatin1String(" > "));
 }
 
-QString Report::labelOf(const TreeViewItem &item, int instance) const
+QString Report::labelOf(const TreeViewItem &item, int instance)
 {
     const PropertyNames &names = menu.handler.names();
     QString label = translate(menu.handler.labelKey(item));
@@ -68,19 +68,26 @@ QString Report::labelOf(const TreeViewItem &item, int instance) const
 }
 
 // For what has neither a label nor a css: its place among the entries, from 1.
-QString Report::entryText(const TreeViewItem &item) const
+QString Report::entryText(const TreeViewItem &item)
 {
     const TreeViewItem *const parent = item.parentItem;
     const PropertyNames &names = menu.handler.names();
-    const auto entries =
-        entriesOf(parent ? parent->definition.property(names.screens) : menu.settings, names);
+    const QScriptValue entries =
+        parent ? parent->definition.property(names.screens) : menu.settings;
+    if (listed != entries.objectId()) {
+        listed = entries.objectId();
+        places.clear();
+        int place = 0;
+        for (const QScriptValue &entry : entriesOf(entries, names)) {
+            ++place;
+            if (!places.contains(entry.objectId()))
+                places.insert(entry.objectId(), place);
+        }
+    }
     const QScriptValue &wanted =
         item.referringEntry.isValid() ? item.referringEntry : item.definition;
-    int place = 0;
-    while (place < entries.size() && !entries.at(place).strictlyEquals(wanted))
-        ++place;
     const QString list = parent ? parent->definition.property(names.css).toString()
                                 : QStringLiteral("Settings.settings");
-    return QStringLiteral("entry %1").arg(place + 1)
+    return QStringLiteral("entry %1").arg(places.value(wanted.objectId()))
         + (list.isEmpty() ? QString() : QStringLiteral(" of ") + list);
 }

@@ -4,6 +4,7 @@
 #include "check/Finding.h"
 #include "check/LoadedMenu.h"
 
+#include <QHash>
 #include <QStringList>
 
 #include <set>
@@ -31,11 +32,13 @@ public:
 
 private:
     bool isReported(const Finding &finding, const QStringList &allowed) const;
-    QString wayTo(const TreeViewItem &item, int instance) const;
-    QString labelOf(const TreeViewItem &item, int instance) const;
-    QString entryText(const TreeViewItem &item) const;
+    QString wayTo(const TreeViewItem &item, int instance);
+    QString labelOf(const TreeViewItem &item, int instance);
+    QString entryText(const TreeViewItem &item);
 
     const LoadedMenu &menu;
     std::set<std::tuple<qint64, int, QString>> reported; ///< definition, instance, text
+    qint64 listed = -1; ///< the entries whose places are known
+    QHash<qint64, int> places; ///< from 1, by definition
     QStringList reportLines;
 };

@@ -9,6 +9,7 @@
 #include "check/ProgressLine.h"
 #include "check/WriteBack.h"
 #include "locale/CTranslationHandler.h"
+#include "platform/StandardDescriptors.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -168,6 +169,7 @@ QString faultOf(const Wishes &wishes, bool hasTool)
 
 int main(int argc, char **argv)
 {
+    openStandardDescriptors();
     const QCoreApplication application(argc, argv);
     qInstallMessageHandler(printMessage);
     QCoreApplication::setApplicationName(QStringLiteral("dravikon-menu-check"));

@@ -4,7 +4,7 @@
 # Usage: packaging/check-install.sh PACKAGE.deb
 set -euo pipefail
 package=$(realpath "$1")
-"$(dirname "$0")/../cmake/install-missing.sh" mmdebstrap dpkg-dev
+"$(dirname "$0")/../cmake/install-missing.sh" mmdebstrap mount dpkg-dev
 
 source=$("$(dirname "$0")/debian-source.sh")
 read -r _ _ release _ <<< "$source"

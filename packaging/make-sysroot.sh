@@ -1,12 +1,16 @@
 #!/usr/bin/env bash
 # Makes a sysroot: a folder with the libraries and headers of a Debian architecture, from the
-# release that this machine runs and the mirror that it uses.
+# release that this machine runs and the mirror that it uses. The libraries of C++ are those of the
+# cross compiler.
 # Usage: packaging/make-sysroot.sh ARCH FOLDER
 set -euo pipefail
 arch=$1
 sysroot=$(realpath -m "$2")
 source=$("$(dirname "$0")/debian-source.sh")
 read -r _ _ release _ <<< "$source"
+compiler=$(dpkg-architecture --host-arch "$arch" --query DEB_HOST_GNU_TYPE 2>/dev/null)-g++
+libraries=libc6-dev,libstdc++-$("$compiler" -dumpversion)-dev
+libraries+=,libvterm-dev,qtbase5-dev,qtscript5-dev,rapidjson-dev
 
 mkdir -p "${sysroot%/*}"
 work=$(mktemp -d "$sysroot.XXXXXX")
@@ -16,8 +20,7 @@ mkdir "$work/root"
 # Unpacks the board's packages without running their scripts. The .deb files are needed below, for
 # the information about their libraries.
 mmdebstrap --quiet --architectures="$arch" --variant=extract --skip=cleanup/apt \
-    --include=libc6-dev,libstdc++-12-dev,libvterm-dev,qtbase5-dev,qtscript5-dev,rapidjson-dev \
-    "$release" - "$source" \
+    --include="$libraries" "$release" - "$source" \
     | tar -x -C "$work/root" --exclude=./dev --exclude=./proc --exclude=./sys
 
 # The build runs this machine's moc.

@@ -48,6 +48,16 @@ QString backgroundsOf(const QString &letters, int row)
     return shapes;
 }
 
+QString textOf(const QString &text, int column, int row, const char *colour)
+{
+    return QStringLiteral("<text x=\"%1\" y=\"%2\" textLength=\"%3\" fill=\"%4\" "
+                          "xml:space=\"preserve\">%5</text>\n")
+        .arg(column * cellWidth)
+        .arg(row * cellHeight + baseline)
+        .arg(text.size() * cellWidth)
+        .arg(QLatin1String(colour), text.toHtmlEscaped());
+}
+
 QString shapesOf(const TerminalEmulator &terminal)
 {
     const QStringList rows = terminal.screen();
@@ -61,13 +71,21 @@ QString shapesOf(const TerminalEmulator &terminal)
     for (int row = 0; row < rows.size(); ++row) {
         if (rows.at(row).isEmpty())
             continue;
-        shapes += QStringLiteral("<text x=\"0\" y=\"%1\" textLength=\"%2\" fill=\"#e8e8e8\" "
-                                 "xml:space=\"preserve\">%3</text>\n")
-                      .arg(row * cellHeight + baseline)
-                      .arg(rows.at(row).size() * cellWidth)
-                      .arg(rows.at(row).toHtmlEscaped());
+        shapes += textOf(rows.at(row), 0, row, "#e8e8e8");
     }
     return shapes;
+}
+
+// In the top right corner, as on the cap of a key.
+QString labelOf(const QString &keys, int columns)
+{
+    if (keys.isEmpty())
+        return {};
+    QString text = QStringLiteral(" %1 ").arg(keys);
+    text.replace(QLatin1Char('*'), QStringLiteral(" \u00d7 "));
+    const int column = columns - text.size();
+    return rectangle(column, 0, text.size(), QStringLiteral("rx=\"3\" fill=\"#e8c860\""))
+        + textOf(text, column, 0, "#16181c");
 }
 
 QSize sizeOf(const TerminalEmulator &terminal)
@@ -94,14 +112,10 @@ QByteArray svgOf(const TerminalEmulator &terminal)
     return pictureOf(sizeOf(terminal), shapesOf(terminal));
 }
 
-void SvgFilm::add(const TerminalEmulator &terminal, int ms)
+void SvgFilm::add(const TerminalEmulator &terminal, const QString &keys, int ms)
 {
     size = sizeOf(terminal);
-    const QString shapes = shapesOf(terminal);
-    if (!frames.isEmpty() && frames.last().shapes == shapes)
-        frames.last().ms += ms;
-    else
-        frames.append({ shapes, ms });
+    frames.append({ shapesOf(terminal) + labelOf(keys, size.width()), ms });
 }
 
 // The screens are below each other on a strip, which jumps up by one screen at a time.

@@ -9,8 +9,9 @@ QByteArray svgOf(const TerminalEmulator &terminal);
 /// Screens that follow each other in an endless loop.
 class SvgFilm {
 public:
-    /// Adds what the terminal shows for a time in milliseconds. All screens have the same size.
-    void add(const TerminalEmulator &terminal, int ms);
+    /// Adds what the terminal shows for a time in milliseconds, with the keys that led to it in a
+    /// corner. All screens have the same size.
+    void add(const TerminalEmulator &terminal, const QString &keys, int ms);
     /// Makes the last screen the one for viewers that do not animate or ask for reduced motion.
     void chooseStill() { still = frames.size() - 1; }
     QByteArray svg() const;

@@ -22,25 +22,27 @@ constexpr Picture pictures[] = {
     { "spd", "Service/Diagnose/SPD", "", "SPD IF: 1/4" },
 };
 
-/// A part of the film: keys, and how long the screen after each is shown.
+/// A picture of the film.
 struct Scene {
-    const char *keys; ///< in the notation of `keysFromText`
-    int keyMs; ///< after each key but the last
-    int lastMs; ///< after the last key
+    const char *keys; ///< that lead to it, in the notation of `keysFromText`
+    int ms; ///< how long it is shown
 };
 
 constexpr Scene scenes[] = {
-    { "Down*2 Return", 150, 600 }, // loading plans
-    { "Down*2 Return", 150, 700 }, // loading rules
-    { "Down*4 Return", 120, 800 }, // a list
-    { "Down Return", 400, 700 },
-    { "Down Return", 150, 500 }, // an edit field
-    { "Left*2 \"9\"", 200, 900 }, // refused
-    { "Backspace \"1\" Return", 400, 800 }, // accepted and written
-    { "PageDown Return Down*3 Return Down", 150, 250 }, // the field interfaces
-    { "Return PageDown", 1000, 1000 },
+    { "", 1500 }, { "Down*2", 900 }, { "Return", 1200 }, // loading plans
+    { "Down*2", 900 }, { "Return", 1200 }, // loading rules
+    { "Down*4", 900 }, { "Return", 1500 }, // a list
+    { "Down", 900 }, { "Escape*2", 1200 }, // left without a change
+    { "Return Down", 1200 }, { "Return", 1200 }, // written
+    { "Down", 900 }, { "Return", 1200 }, // an edit field
+    { "Left*2", 900 }, { "\"9\"", 1500 }, // refused
+    { "Backspace", 900 }, { "\"1\"", 1200 }, // accepted
+    { "Return", 1500 }, // written
+    { "PageDown", 900 }, { "Return", 1200 }, // the field interfaces
+    { "Down*3", 900 }, { "Return", 900 }, { "Down", 900 }, { "Return", 1800 }, // a live screen
+    { "PageDown", 1500 }, { "Escape*2", 1500 }, // left
 };
-constexpr int stillScene = 2;
+constexpr int stillScene = 6;
 
 bool write(const QString &folder, const char *name, const QByteArray &svg)
 {
@@ -63,15 +65,11 @@ bool takeFilm(const QString &folder)
     SvgFilm film;
     if (!session.run(QStringLiteral(DEMO)) || !session.waitForRest())
         return false;
-    film.add(session.terminal(), 800);
     for (const Scene &scene : scenes) {
-        const QByteArrayList keys =
-            keysFromText(QString::fromLatin1(scene.keys)).value_or(QByteArrayList());
-        for (int i = 0; i < keys.size(); ++i) {
-            if (!session.press(keys.at(i)) || !session.waitForRest())
-                return false;
-            film.add(session.terminal(), i < keys.size() - 1 ? scene.keyMs : scene.lastMs);
-        }
+        const QString keys = QString::fromLatin1(scene.keys);
+        if (!session.pressAll(keys))
+            return false;
+        film.add(session.terminal(), keys, scene.ms);
         if (&scene == &scenes[stillScene])
             film.chooseStill();
     }

@@ -7,6 +7,12 @@
 #include <QLocale>
 #include <QSaveFile>
 
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
 namespace {
 
 // The keys of the file, each with its member. Loading and saving visit the same ones.
@@ -94,6 +100,17 @@ QByteArray indented(const QVariant &value, const QByteArray &margin)
 
 } // namespace
 
+StateLock::StateLock(const QString &directory)
+    : descriptor(open(QFile::encodeName(directory).constData(), O_RDONLY | O_CLOEXEC))
+{
+    while (flock(descriptor, LOCK_EX) < 0 && errno == EINTR) { }
+}
+
+StateLock::~StateLock()
+{
+    close(descriptor);
+}
+
 QVariant &sealValue(DeviceState &state)
 {
     const auto group = state.groups.find(state.seal.value(0));
@@ -122,7 +139,7 @@ std::optional<DeviceState> stateFromJson(const QByteArray &json)
 std::optional<DeviceState> loadState(const QString &path)
 {
     QFile file(path);
-    if (!file.exists() || !file.open(QIODevice::ReadOnly))
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
     return stateFromJson(file.readAll());
 }
@@ -139,8 +156,9 @@ bool saveState(const QString &path, const DeviceState &state)
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return false;
-    file.write(stateJson(state));
-    return file.commit();
+    // On a full disk only flush() notices that the last bytes are lost.
+    const QByteArray json = stateJson(state);
+    return file.write(json) == json.size() && file.flush() && file.commit();
 }
 
 QByteArray deviceJson(const QVariant &value)

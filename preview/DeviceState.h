@@ -35,6 +35,18 @@ struct DeviceState {
     std::map<QString, FieldInterface> interfaces; ///< by name
 };
 
+/// Keeps the calls of other processes away from the state in `directory` for a scope; waits until
+/// they are done. The end of a process ends its locks.
+class StateLock {
+public:
+    explicit StateLock(const QString &directory);
+    ~StateLock();
+    Q_DISABLE_COPY(StateLock)
+
+private:
+    const int descriptor;
+};
+
 /// The value that is true while the electronic seal is closed.
 QVariant &sealValue(DeviceState &state);
 

@@ -8,6 +8,7 @@
 #include "check/OwnProcess.h"
 #include "check/QuietMessages.h"
 #include "check/ToolFault.h"
+#include "platform/StandardDescriptors.h"
 #include "preview/DisposableDirectory.h"
 #include "preview/SimulatedDevice.h"
 #include "preview/SimulatedTool.h"
@@ -193,6 +194,7 @@ int runOnSimulatedDevice(const QString &directory, PreviewOptions &options, char
 
 int runPreview(int argc, char **argv, const PreviewDefaults &defaults)
 {
+    openStandardDescriptors();
     if (isSimulatedTool(argv[0]))
         return runSimulatedTool(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("dravikon-preview"));

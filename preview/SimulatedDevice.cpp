@@ -19,13 +19,15 @@ QString makeSimulatedDevice(const QString &directory, const QString &program,
 {
     const QString tool = simulatedTool(directory);
     const QString state = stateFile(directory);
+    const bool isMade = QDir().mkpath(directory);
+    const StateLock lock(directory);
     const bool isKnown = QFile::exists(state);
     const std::optional<DeviceState> known = loadState(isKnown ? state : values);
     if (isKnown && !known)
         return state + QStringLiteral(" is no JSON object; correct or remove it");
     if (QFileInfo(tool).isSymLink())
         QFile::remove(tool);
-    if (!QDir().mkpath(directory) || !QFile::link(program, tool))
+    if (!isMade || !QFile::link(program, tool))
         return QStringLiteral("cannot make ") + tool;
     // The script engine leaves a thread behind, which would take signals of the session.
     const WorkEnd making = doInOwnProcess([&] {

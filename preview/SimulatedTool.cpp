@@ -71,15 +71,17 @@ QByteArray simulatedAnswer(
 
 int runSimulatedTool(int argc, char **argv)
 {
-    const QString file = stateFile(directoryOf(argv[0]));
+    const QString directory = directoryOf(argv[0]);
     QStringList arguments;
     for (int index = 1; index < argc; ++index)
         arguments += QString::fromUtf8(argv[index]);
+    const StateLock lock(directory);
+    const QString file = stateFile(directory);
     DeviceState state = loadState(file).value_or(DeviceState());
     const QByteArray answer =
         simulatedAnswer(state, arguments, [&] { return saveState(file, state); });
     if (answer.isEmpty())
         return 1;
-    std::puts(answer.constData());
-    return 0;
+    const bool isPrinted = std::puts(answer.constData()) >= 0 && std::fflush(stdout) == 0;
+    return isPrinted ? 0 : 1;
 }

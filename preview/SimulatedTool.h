@@ -12,5 +12,5 @@ QByteArray simulatedAnswer(
     DeviceState &state, const QStringList &arguments, const std::function<bool()> &save);
 
 /// One run of the tool, for the device whose link to it has the name `argv[0]`. Returns the exit
-/// status: 1 when there is no answer.
+/// status: 1 when there is no answer or it could not be printed.
 int runSimulatedTool(int argc, char **argv);

@@ -31,21 +31,6 @@ private slots:
             QVERIFY2(groups[read.key()].values.size() == read.value(), qPrintable(read.key()));
     }
 
-    void isInTheDocuments()
-    {
-        QFile file(SOURCES "/docs/backend-tool.md");
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString document = QString::fromUtf8(file.readAll());
-        const QString layout = menuLayout(demo).join('\n') + '\n';
-        const auto start = "--web-root demo/web --layout\n";
-        const auto end = "    ...\n\n";
-        QString excerpt = document.section(start, 1).section(end, 0, 0);
-        QVERIFY(excerpt.count('\n') > 30);
-        excerpt.replace("\n    ", "\n").remove(0, 4);
-        for (const QString &part : excerpt.split("...\n"))
-            QVERIFY2(layout.contains(part), qPrintable(part));
-    }
-
     void printsWhatTheConsoleCanCall()
     {
         FakeDevice device;

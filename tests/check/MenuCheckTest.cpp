@@ -365,6 +365,22 @@ private slots:
             "Settings = { settings: [{ get checkIgnore() { return " + crash + "; } }] }");
     }
 
+    void endsOnLargeDefinitions()
+    {
+        const Rows row = [this](const QByteArray &screens) {
+            device.setScreens(screens,
+                "for (var many = []; many.length < 20000;)"
+                " many.push({css: 's' + many.length});");
+            QCOMPARE(check(root).status, 1); // not that of a script without end
+        };
+        row("values",
+            "[{css: 'r', screens: [{css: 'a'}]}, {css: 'a', screens: [{inputType: "
+            "'selectlabel', values: {length: 1e5}, dbValues: {length: 1e5}}]}]");
+        row("unreached screens", "many");
+        row("fields without label", "[{screens: many.map(function() { return {}; })}]");
+        row("shared entries", "[{screens: many.map(function() { return {screens: many}; })}]");
+    }
+
     void recordsDevice()
     {
         device.setScreens(oneField);

@@ -307,9 +307,18 @@ private slots:
 
     void endWhileStopped()
     {
-        Session session;
-        QVERIFY(startAsJob(session, "\"$@\"; kill %1; read x"));
-        QVERIFY(session.send("\x1a") && session.waitForText("ended by signal 15"));
+        const Rows row = [](const QString &commands, const QString &text) {
+            Session session;
+            QVERIFY(startAsJob(session, commands));
+            QVERIFY(session.send("\x1a") && session.waitForText(text));
+        };
+        row("SIGTERM", "\"$@\"; kill %1; read x", "ended by signal 15");
+        row("shell that continues nothing by itself",
+            "exec dash -c 'set -m; \"$@\"; kill %1; fg' dash \"$@\"", "ended by signal 15");
+        row("Ctrl-C in the background",
+            "\"$@\"; kill -INT %1; kill -CONT %1; wait %1; echo status $?; read x", "status 0");
+        row("Ctrl-C after a stop in the background",
+            "\"$@\"; bg; wait %1; kill -INT %1; bg; wait %1; echo status $?; read x", "status 0");
     }
 };
 

@@ -41,9 +41,9 @@ class PreviewTest : public QObject {
 
     // Runs the preview for a moment, with options in the notation of the shell. As luit does it,
     // the program gets its name without the directory.
-    ProgramResult preview(const QString &options)
+    ProgramResult preview(const QString &options, const QString &before = {})
     {
-        return runShell("exec -a dravikon-preview " PREVIEW " --idle 1 --web-root "
+        return runShell(before + "exec -a dravikon-preview " PREVIEW " --idle 1 --web-root "
             + files.paths().webRoot + ' ' + options);
     }
 
@@ -242,11 +242,15 @@ private slots:
         row("trace in a file", "--trace /dev/null/x", "cannot write /dev/null/x: Not a directory");
         row("full disk", "--help > /dev/full",
             "the output is not complete: No space left on device");
+        row("closed standard output", "--help >&-",
+            "the output is not complete: Bad file descriptor");
     }
 
     void makesTheDeviceThatIsWanted()
     {
-        define("define([to('a')], [setup, can, page('a', [{}])])");
+        define("var pages = [], digits = '0123456789'.split('');"
+               "for (var digit in digits) pages.push(page(digit, [{}]));"
+               "define(digits.map(to), [setup, can].concat(pages))");
         const QTemporaryDir directory;
         const QString state = "--state " + directory.path();
         const auto answer = [&](const char *words) {
@@ -262,6 +266,19 @@ private slots:
         }
         QCOMPARE(preview(state + " --seal closed").status, 0);
         QCOMPARE(answer("get_menu_electronic_seal_status"), QString("[\"i18n_wm_true\"]\n"));
+        // Calls at the same time do not disturb each other.
+        const QString tool = "tool=" + simulatedTool(directory.path()) + "; ";
+        QCOMPARE(runShell(tool
+                     + "for n in {0..9}; do $tool set $n [$n] & done | uniq; wait; "
+                       "for n in {0..9}; do $tool get $n; done")
+                     .output,
+            QString("[true]\n[0]\n[1]\n[2]\n[3]\n[4]\n[5]\n[6]\n[7]\n[8]\n[9]\n"));
+        // As on a full disk, nothing can be written.
+        const QString full = "trap '' XFSZ; ulimit -f 0; ";
+        QCOMPARE(runShell(full + tool + "$tool set 1 [2]").output, QString("[false]\n"));
+        QCOMPARE(preview(state, full).status, 1);
+        QCOMPARE(answer("get 1"), QString("[1]\n"));
+        QCOMPARE(runShell(tool + "$tool get 1 > /dev/full").status, 1);
     }
 
     void runsTheToolThatIsNamed()
