@@ -17,6 +17,7 @@ public:
         , counts(counts)
         , names(names)
         , isOpen(size_t(screens.size()), false)
+        , isReported(size_t(screens.size()), false)
     {
     }
 
@@ -53,7 +54,7 @@ private:
         if (!css.isValid())
             return;
         const int screen = screens.find(repeatedScreenName(css.toString()));
-        for (int index = 0; screen >= 0 && index < repetitions; ++index)
+        for (int index = 0; screen >= 0 && index < repetitions && takesEntry(); ++index)
             addScreen(item, screen, item.definition, index);
     }
 
@@ -68,9 +69,12 @@ private:
             // The iterator also yields an array's "length", always a number. It has no css, so it
             // refers to the screen whose css is empty, if there is one.
             const bool mayBeLength = !isArray || definition.isNumber();
-            if (!css.isValid() && !(mayBeLength && entry.scriptName() == names.length)) {
+            const bool isLength =
+                !css.isValid() && mayBeLength && entry.scriptName() == names.length;
+            if (!isLength && !takesEntry())
+                return;
+            if (!css.isValid() && !isLength) {
                 item.addChild(definition, QScriptValue(), index);
-                ++itemCount;
                 continue;
             }
             const int screen = screens.find(css.toString());
@@ -82,19 +86,15 @@ private:
     void addScreen(TreeViewItem &item, int screen, const QScriptValue &referringEntry, int index)
     {
         if (isOpen[size_t(screen)]) {
-            qWarning() << "Menu definition: dropped a screen below itself:"
-                       << screens.at(screen).property(names.css).toString();
+            if (!isReported[size_t(screen)])
+                qWarning() << "Menu definition: dropped a screen below itself:"
+                           << screens.at(screen).property(names.css).toString();
+            isReported[size_t(screen)] = true;
             return;
         }
-        if (itemCount >= maximumItems || level >= maximumLevels) {
-            if (!warnedOfSize)
-                qWarning() << "Menu definition: too large, dropped what goes beyond" << maximumItems
-                           << "items or" << maximumLevels << "levels";
-            warnedOfSize = true;
+        if (!isWithin(level < maximumLevels))
             return;
-        }
         TreeViewItem &child = item.addChild(screens.at(screen), referringEntry, index);
-        ++itemCount;
         ++level;
         isOpen[size_t(screen)] = true;
         expand(child, index);
@@ -102,11 +102,25 @@ private:
         --level;
     }
 
+    // Also an entry that adds nothing counts, as it takes its time.
+    bool takesEntry() { return isWithin(++entryCount <= maximumItems); }
+
+    // Warns once.
+    bool isWithin(bool limit)
+    {
+        if (!limit && !warnedOfSize)
+            qWarning() << "Menu definition: too large, dropped what goes beyond" << maximumItems
+                       << "items or" << maximumLevels << "levels";
+        warnedOfSize |= !limit;
+        return limit;
+    }
+
     const ScreenIndex &screens;
     const RepeatCounts counts;
     const PropertyNames &names;
     std::vector<bool> isOpen; ///< by screen: on the path from the root to the current item
-    int itemCount = 0;
+    std::vector<bool> isReported; ///< by screen: as dropped below itself
+    int entryCount = 0;
     int level = 0;
     bool warnedOfSize = false;
 };

@@ -199,6 +199,21 @@ private slots:
             "for (var i = 0; i < 450; i++) { many.push(to('a')); more.push(to('b')); }"
             "var screens = [screen('r', many), screen('a', more), to('b')];",
             200000, "too large");
+        row("fields",
+            "var many = [];"
+            "for (var i = 0; i < 300000; i++) many.push(field('F'));"
+            "var screens = [screen('r', many)];",
+            200000, "too large");
+        row("references to nothing",
+            "var many = [], screens = [screen('r', [])];"
+            "for (var i = 0; i < 999; i++) { many.push(to('gone')); screens.push(screen(i, many)); "
+            "screens[0].screens.push(to(i)); }",
+            200, "too large");
+        row("references to itself",
+            "var many = [];"
+            "for (var i = 0; i < 999; i++) many.push(to('r'));"
+            "var screens = [screen('r', many)];",
+            0, "below itself");
         row("each below the one before",
             "var screens = [screen('r', [to(0)])];"
             "for (var i = 0; i < 5000; i++) screens.push(screen(i, [to(i + 1)]));",
