@@ -36,13 +36,16 @@ int integer(const QScriptValue &value)
 }
 
 // Nothing where the list has no such entry. A number without a fraction is an integer on its way to
-// the backend, as far as 64 bits reach.
+// the backend, as far as 64 bits reach. An object is its text: the engine's conversion of one that
+// is nested deeply overflows the stack.
 std::optional<QVariant> entryAt(const QScriptValue &list, int i)
 {
     constexpr double wordLimit = 18446744073709551616.0; // 2^64
     const QScriptValue entry = i < 0 ? QScriptValue() : list.property(quint32(i));
     if (!entry.isValid())
         return std::nullopt;
+    if (entry.isObject())
+        return entry.toString();
     const double number = entry.isNumber() ? entry.toNumber() : qQNaN();
     if (std::trunc(number) != number)
         return entry.toVariant();

@@ -172,6 +172,12 @@ private slots:
             "var item = {i18n: 'F', get values() { throw 1 }, inputType: 'dropdown'};"
             "var Settings = {settings: [screen('r', [item])]};",
             "r(F)", "", "");
+        row("values nested deeply",
+            "var a = [], item = {i18n: 'F', values: a, dbValues: a, inputType: 'dropdown'};"
+            "for (var inner = [], i = 0; i < 100000; i++) inner = [inner];"
+            "a.push(inner);"
+            "var Settings = {settings: [screen('r', [item])]};",
+            "r(F)", "", "");
         row("values within themselves",
             "var a = []; a.push(a);"
             "var item = {i18n: 'F', values: a, dbValues: a, inputType: 'dropdown'};"
