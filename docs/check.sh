@@ -18,7 +18,7 @@ PATH=$work/usr/bin:$PATH
 cd "$work"
 failures=0
 
-dravikon-preview() { command dravikon-preview --idle 500 "$@" </dev/null >/dev/null; }
+dravikon-preview() { command dravikon-preview --idle 1000 "$@" </dev/null >/dev/null; }
 
 # fail WHAT EXPECTED PRINTED
 fail() {

@@ -34,7 +34,8 @@ echo "$version, status $status"
 [[ $version == Tavrolink-Dravikon-Version:* && $status == 255 ]]
 chroot "$root" dravikon-menu-check --version
 # Without a terminal the console ends after its idle time.
-chroot "$root" dravikon-preview --idle 1 </dev/null | grep "DBC ver: preview" >/dev/null
+chroot "$root" dravikon-preview --web-root /usr/share/doc/dravikon/examples/web --idle 1000 \
+    </dev/null | grep "DBC ver: preview" >/dev/null
 
 echo "== remove"
 chroot "$root" dpkg --purge dravikon
