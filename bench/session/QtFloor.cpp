@@ -1,5 +1,5 @@
 // The floor of a start: makes a script engine and prints a frame.
-// Usage: qt-floor FRAME, where FRAME is the name of a file.
+// Usage: bench-qt-floor FRAME, where FRAME is the name of a file.
 #include <QCoreApplication>
 #include <QFile>
 #include <QScriptEngine>

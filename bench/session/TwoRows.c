@@ -1,5 +1,5 @@
 // The floor of a key: prints a frame, then answers each key with the same bytes.
-// Usage: two-rows FRAME ANSWER, where both are names of files.
+// Usage: bench-two-rows FRAME ANSWER, where both are names of files.
 #include <fcntl.h>
 #include <termios.h>
 #include <unistd.h>
