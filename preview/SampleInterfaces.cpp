@@ -1,8 +1,6 @@
 #include "preview/SampleInterfaces.h"
 
-std::map<QString, FieldInterface> sampleInterfaces()
-{
-    static const char json[] = R"({"interfaces": {
+static constexpr char samples[] = R"({"interfaces": {
     "SpdInterface": {
         "query": "get_menu_service_diagnose_spd_interfaces",
         "drift": [0, 0, 12],
@@ -51,5 +49,8 @@ std::map<QString, FieldInterface> sampleInterfaces()
         ]
     }
 }})";
-    return stateFromJson(json)->interfaces;
+
+std::map<QString, FieldInterface> sampleInterfaces()
+{
+    return stateFromJson(samples)->interfaces;
 }
