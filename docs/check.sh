@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Tries what the documents for integrators say, with nothing but the files that the package installs:
-# runs their commands and compares what they print, runs the examples of what a script can use, and
-# checks the markup of the manual pages.
+# runs their commands and compares what they print, and runs the examples of what a script can use.
+# Checks that the files exist that any document names, and the markup of the manual pages.
 #
 # In an indented block of a document "$ " begins a command, "> " continues it, and the other lines
 # are what it prints, in which "..." stands for any text. A session ends by its idle time.
@@ -70,6 +70,12 @@ while IFS=$'\037' read -r example outcome; do
 done < <(sed -nE 's/^\| .* \| `(.*)` \| (works|error) \|$/\1\o037\2/p' "$docs/menu-definition.md")
 ((examples > 0)) || fail "examples" "some" "none"
 echo "menu-definition.md: $examples examples of what a script can use"
+
+# What documents name is in the sources.
+while IFS= read -r path; do
+    [[ -e $docs/../$path ]] || fail "$path" "a file" "none"
+done < <(cat "$docs"/*.md "$docs/../README.md" | grep -oE '`[a-z]+/[A-Za-z0-9/-]*\.(cpp|h|sh|md|cmake)`' \
+    | tr -d '`' | sort -u)
 
 for page in "$docs"/../packaging/*.1; do
     lint=$(mandoc -T lint -W warning "$page" 2>&1) || fail "$page" "" "$lint"
