@@ -23,6 +23,10 @@ mmdebstrap --quiet --architectures="$arch" --variant=extract --skip=cleanup/apt 
     --include="$libraries" "$release" - "$source" \
     | tar -x -C "$work/root" --exclude=./dev --exclude=./proc --exclude=./sys
 
+# Since Debian 13 all libraries are below /usr. Installing its base files would make this link, which
+# the path of the dynamic loader needs.
+[[ -e $work/root/lib ]] || ln -s usr/lib "$work/root/lib"
+
 # The build runs this machine's moc.
 ln -sf /usr/lib/qt5/bin/moc "$work/root/usr/lib/qt5/bin/moc"
 
