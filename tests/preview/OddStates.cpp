@@ -5,19 +5,12 @@
 #include "json/JsonReader.h"
 #include "preview/DeviceFromMenu.h"
 #include "preview/SimulatedTool.h"
-#include "render/Line.h"
 #include "tests/support/Chance.h"
+#include "tests/support/SimulatedLine.h"
 
 namespace {
 
 constexpr int statesOfSession = 100;
-
-struct NoLine : Line {
-    void write(const QByteArray &) override { }
-    int queuedBytes() const override { return 0; }
-    int bytesPerSecond() const override { return 960; }
-    qint64 milliseconds() const override { return 0; }
-};
 
 const QVariantList oddValues = parseJson(R"([null, true, -1, 0, 1, 3, 999, 1073741824, 2147483647,
     -2147483648, 4294967296, 9223372036854775807, -9223372036854775808, 18446744073709551615, 0.5,
@@ -70,7 +63,7 @@ class OddStates : public QObject {
         return simulatedAnswer(state, arguments, [] { return true; });
     };
     TreeViewItemHandler menu { demo, tool };
-    NoLine line;
+    SimulatedLine line;
 
     // Random keys seldom come to them.
     void showInterfaces(const TreeViewItem &item)
@@ -112,13 +105,17 @@ private slots:
             // The file is edited during a session, sometimes before a start.
             const bool isStart = random.bounded(10) == 0;
             state = isStart ? deviceFromMenu(demo, *edited, {}) : *edited;
-            for (int count = 0; count < 15; ++count)
+            for (int count = 0; count < 15; ++count) {
                 gui.processKeyEvent(oneOf(keys, random));
+                line.nowUs += 10000000;
+                gui.shownScreen().beforeWait(false);
+            }
             if (number % 4 == 0)
                 showInterfaces(*root);
             const QByteArray answer = tool({ "get_menu display" });
             QVERIFY2(answer.isEmpty() || parseJson(answer), answer);
             QVERIFY(stateFromJson(stateJson(state)));
+            QVERIFY(line.terminal.answerBack().isEmpty());
         }
     }
 };
