@@ -16,8 +16,7 @@ QString excerpt(const QByteArray &printed)
     constexpr int longest = 60;
     const QString line =
         QString::fromUtf8(printed).trimmed().section(QLatin1Char('\n'), 0, 0).trimmed();
-    return QLatin1Char('"') + line.left(longest)
-        + QLatin1String(line.size() > longest ? "...\"" : "\"");
+    return QLatin1Char('"') + shortened(line, longest) + QLatin1Char('"');
 }
 
 // How the run ended, where that is no success, and what it wrote to standard error.

@@ -14,9 +14,16 @@ struct Finding {
 
 using Findings = QVector<Finding>;
 
+/// The beginning of a text that may be long, such as a value of the device.
+inline QString shortened(const QString &text, int longest)
+{
+    return text.size() > longest ? text.left(longest) + QLatin1String("...") : text;
+}
+
 inline QString findingText(const QString &text)
 {
-    return text;
+    constexpr int longest = 500;
+    return shortened(text, longest);
 }
 
 inline QString findingText(qint64 number)

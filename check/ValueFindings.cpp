@@ -29,11 +29,13 @@ QString labelOf(const TreeViewItemHandler &handler, const TreeViewItem &item)
 QString distribution(const QStringList &labels, const QVariantList &answer)
 {
     constexpr int longest = 12;
+    constexpr int longestValue = 60;
     const int count = qMax(labels.size(), answer.size());
     QStringList texts;
     for (int i = 0; i < qMin(count, longest); ++i) {
         texts += labels.value(i, QStringLiteral("no entry")) + QLatin1String(" = ")
-            + (i < answer.size() ? shownValue(answer.at(i)) : QStringLiteral("no value"));
+            + (i < answer.size() ? shortened(shownValue(answer.at(i)), longestValue)
+                                 : QStringLiteral("no value"));
     }
     if (count > longest)
         texts += QStringLiteral("...");
