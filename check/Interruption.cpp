@@ -1,6 +1,7 @@
 #include "check/Interruption.h"
 
 #include "backend/BackendTool.h"
+#include "check/ProgressLine.h"
 
 #include <csignal>
 
@@ -9,6 +10,7 @@ namespace {
 void endWithTool(int number)
 {
     BackendTool::killRunning();
+    clearProgress();
     // The signal is blocked while its handler runs; it ends the program when the handler returns.
     std::signal(number, SIG_DFL);
     std::raise(number);

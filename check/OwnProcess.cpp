@@ -13,6 +13,35 @@ namespace {
 
 constexpr unsigned patienceSeconds = 30;
 
+volatile pid_t worker = 0;
+volatile std::sig_atomic_t passedOn = 0;
+
+void passOn(int number)
+{
+    passedOn = number;
+    kill(worker, number);
+}
+
+// Waits for the work. SIGINT and SIGQUIT end it first and then this process: a shell must not
+// prompt while the work still writes to the terminal.
+int waitForWork()
+{
+    constexpr std::array<int, 2> keys = { SIGINT, SIGQUIT };
+    std::array<decltype(SIG_DFL), 2> former;
+    for (size_t i = 0; i < keys.size(); ++i) {
+        former[i] = std::signal(keys[i], passOn);
+        if (former[i] == SIG_IGN)
+            std::signal(keys[i], SIG_IGN);
+    }
+    int end = 0;
+    while (waitpid(worker, &end, 0) < 0 && errno == EINTR) { }
+    for (size_t i = 0; i < keys.size(); ++i)
+        std::signal(keys[i], former[i]);
+    if (passedOn != 0)
+        std::raise(passedOn);
+    return end;
+}
+
 } // namespace
 
 bool WorkEnd::hasCrashed() const
@@ -33,10 +62,10 @@ WorkEnd doInOwnProcess(const std::function<int()> &work)
         alarm(patienceSeconds);
         _exit(getppid() == parent ? work() : 0);
     }
-    int end = 0;
-    while (child > 0 && waitpid(child, &end, 0) < 0 && errno == EINTR) { }
     if (child < 0)
         return {};
+    worker = child;
+    const int end = waitForWork();
     return WIFEXITED(end) ? WorkEnd { WEXITSTATUS(end), 0 } : WorkEnd { -1, WTERMSIG(end) };
 }
 

@@ -40,7 +40,7 @@ void read(LoadedMenu &menu, ToolCalls &calls, DeviceExtent extent)
     takeTime();
     killToolOnInterruption();
     readDevice(menu, calls, extent);
-    showProgress({});
+    clearProgress();
 }
 
 // Without the table the menu has keys instead of labels.
@@ -99,7 +99,7 @@ int reportWriteBack(const DevicePaths &paths, ToolCalls &calls)
     const WriteBackReport report = writeBack(paths, calls.trace, [&](const QStringList &call) {
         showProgress(QStringLiteral("%1: %2").arg(++number).arg(shownCall(call)));
     });
-    showProgress({});
+    clearProgress();
     print(stdout, report.problems);
     print(stderr, report.summary);
     return report.problems.isEmpty() ? Clean : HasProblems;

@@ -414,13 +414,14 @@ private slots:
                 { "--web-root", device.paths().webRoot, "--device", "--tool",
                     device.paths().backendTool },
                 24, 30));
-            QVERIFY(session.waitForText("1: get_menu_electronic_seal_s"));
+            QVERIFY(session.waitForText("1: get_menu_electronic_sea"));
             QCOMPARE(session.terminal().row(1), QString()); // cut to the terminal's width
             QStringList calls { QString() };
             QVERIFY(
                 session.waitFor([&] { return (calls += device.takeCalls()).last().toInt() > 0; }));
             endBy(number, session);
             QCOMPARE(session.waitForExit(), (ExitStatus { ExitStatus::Killed, number }));
+            QVERIFY(number != SIGINT || session.terminal().row(0).isEmpty());
             const QString program = QString("/proc/%1/exe").arg(calls.last());
             QVERIFY(session.waitFor([&] { return !QFileInfo::exists(program); }));
         };
