@@ -61,6 +61,10 @@ std::optional<int> parseCommandLine(QCommandLineParser &parser)
         print(stdout, QCoreApplication::applicationName() + QLatin1Char(' ') + consoleVersion);
         return statusOfOutput(0);
     }
+    for (const QString &option : parser.optionNames()) {
+        if (parser.values(option).contains(QString()))
+            return failure(wrongUsage, QStringLiteral("--%1 needs a value").arg(option));
+    }
     if (!parser.positionalArguments().isEmpty())
         return failure(
             wrongUsage, QStringLiteral("unexpected ") + parser.positionalArguments().first());

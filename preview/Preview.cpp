@@ -59,6 +59,13 @@ void addOptions(QCommandLineParser &parser)
     add("tool", "Run FILE as the backend tool; there is no simulated device then.", "FILE");
 }
 
+// Empty when the option is not given.
+QString givenPath(const QCommandLineParser &parser, const char *option)
+{
+    const QString path = parser.value(QLatin1String(option));
+    return path.isEmpty() ? QString() : QDir(path).absolutePath();
+}
+
 // These store the value of an option that is given. They return an error message, empty on success.
 
 QString takeNumber(const QCommandLineParser &parser, const char *name, int lowest, int highest,
@@ -76,16 +83,6 @@ QString takeNumber(const QCommandLineParser &parser, const char *name, int lowes
         .arg(highest);
 }
 
-QString takePath(const QCommandLineParser &parser, const char *name, QString &path)
-{
-    if (!parser.isSet(QLatin1String(name)))
-        return {};
-    const QString value = parser.value(QLatin1String(name));
-    path = QDir(value).absolutePath();
-    return value.isEmpty() ? QStringLiteral("--%1 takes a path").arg(QLatin1String(name))
-                           : QString();
-}
-
 QString takeSeal(const QCommandLineParser &parser, std::optional<bool> &isOpen)
 {
     const QString seal = parser.value(QStringLiteral("seal"));
@@ -101,21 +98,22 @@ QString takeSeal(const QCommandLineParser &parser, std::optional<bool> &isOpen)
 QString takeOptions(const QCommandLineParser &parser, PreviewOptions &options)
 {
     std::optional<int> idleMs;
-    QString trace;
-    for (const QString &problem : { takePath(parser, "web-root", options.webRoot),
-             takePath(parser, "state", options.stateDirectory),
-             takePath(parser, "tool", options.tool), takePath(parser, "trace", trace),
-             takeNumber(parser, "compartments", 0, 999, options.wishes.compartments),
-             takeNumber(parser, "meters", 0, 999, options.wishes.meters),
-             takeNumber(parser, "idle", 1, std::numeric_limits<int>::max(), idleMs),
-             takeSeal(parser, options.wishes.isSealOpen) }) {
+    for (const QString &problem :
+        { takeNumber(parser, "compartments", 0, 999, options.wishes.compartments),
+            takeNumber(parser, "meters", 0, 999, options.wishes.meters),
+            takeNumber(parser, "idle", 1, std::numeric_limits<int>::max(), idleMs),
+            takeSeal(parser, options.wishes.isSealOpen) }) {
         if (!problem.isEmpty())
             return problem;
     }
+    options.webRoot = givenPath(parser, "web-root");
+    options.stateDirectory = givenPath(parser, "state");
+    options.tool = givenPath(parser, "tool");
     options.idleMs = idleMs.value_or(options.idleMs);
     const QString fault = options.tool.isEmpty() ? QString() : toolFault(options.tool);
     if (!fault.isEmpty())
         return options.tool + QStringLiteral(" cannot be started: ") + fault;
+    const QString trace = givenPath(parser, "trace");
     return trace.isEmpty() ? QString() : options.trace.open(trace);
 }
 

@@ -271,6 +271,7 @@ private slots:
         row("unknown option", "--bad", 2, "", "dravikon-menu-check: Unknown option");
         row("no option", "bad", 2, "", "dravikon-menu-check: unexpected bad\n");
         row("tool alone", "--tool=x", 2, "", "dravikon-menu-check: --tool is for --device");
+        row("empty path", "--web-root=", 2, "", "dravikon-menu-check: --web-root needs a value\n");
         row("no definition", "--web-root=/nowhere", 2, "",
             "dravikon-menu-check: cannot load /nowhere/scripts/settings.js: No such file");
     }

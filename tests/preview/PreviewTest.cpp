@@ -236,7 +236,7 @@ private slots:
         row("negative number", "--meters=-1", "--meters takes a number from 0 to 999");
         row("no idle time", "--idle 0", "--idle takes a number from 1 to 2147483647");
         row("other seal", "--seal broken", "--seal is open or closed");
-        row("empty path", "--web-root ''", "--web-root takes a path");
+        row("empty path", "--web-root ''", "--web-root needs a value");
         row("tool that is no file", "--tool /",
             "/ cannot be started: it is no file; correct its path");
         row("trace in a file", "--trace /dev/null/x", "cannot write /dev/null/x: Not a directory");
