@@ -3,15 +3,14 @@
 #include "check/Utf8Findings.h"
 #include "json/JsonReader.h"
 #include "locale/CTranslationHandler.h"
-
-#include <QFile>
+#include "platform/FileContent.h"
 
 QString unreadableScript(const DevicePaths &paths)
 {
-    QFile file(paths.settingsScript);
-    return file.open(QIODevice::ReadOnly)
+    QString fault;
+    return fileContent(paths.settingsScript, &fault)
         ? QString()
-        : paths.settingsScript + QStringLiteral(": ") + file.errorString();
+        : paths.settingsScript + QStringLiteral(": ") + fault;
 }
 
 QString translationTable(const QString &webRoot)
@@ -22,10 +21,10 @@ QString translationTable(const QString &webRoot)
 Findings tableFindings(const QString &path)
 {
     constexpr const char *text = "%1; correct it, the console shows keys instead of texts";
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return { error("translation-table", text, file.errorString()) };
-    const QByteArray json = file.readAll();
+    QString unreadable;
+    const QByteArray json = fileContent(path, &unreadable).value_or(QByteArray());
+    if (!unreadable.isEmpty())
+        return { error("translation-table", text, unreadable) };
     const Findings encoding = utf8Findings(json, QStringLiteral("the table"));
     QVariantMap texts;
     if (!encoding.isEmpty() || CTranslationHandler::loadJsonMap(path, texts))

@@ -1,8 +1,7 @@
 #include "check/ScriptFindings.h"
 
 #include "check/Utf8Findings.h"
-
-#include <QFile>
+#include "platform/FileContent.h"
 
 namespace {
 
@@ -50,10 +49,9 @@ Findings errorFindings(LoadedMenu &menu)
 
 Findings scriptFindings(LoadedMenu &menu)
 {
-    QFile file(menu.paths.settingsScript);
-    file.open(QIODevice::ReadOnly);
+    const QByteArray script = fileContent(menu.paths.settingsScript).value_or(QByteArray());
     const Findings findings =
-        utf8Findings(file.readAll(), QStringLiteral("the script")) + errorFindings(menu);
+        utf8Findings(script, QStringLiteral("the script")) + errorFindings(menu);
     const bool hasScreens = menu.settings.property(0).isObject();
     if (!hasScreens || !menu.handler.setupStructureVersion().isEmpty())
         return findings;

@@ -3,9 +3,9 @@
 #include "json/JsonReader.h"
 #include "json/Values.h"
 #include "platform/DevicePaths.h"
+#include "platform/FileContent.h"
 
 #include <QDebug>
-#include <QFile>
 
 namespace {
 
@@ -35,10 +35,7 @@ void CTranslationHandler::setInstanceRoot(const QString &guiRoot)
 
 bool CTranslationHandler::loadJsonMap(const QString &path, QVariantMap &target)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    QByteArray json = file.readAll();
+    QByteArray json = fileContent(path).value_or(QByteArray());
     json.truncate(int(qstrlen(json.constData()))); // a NUL byte ends the text
     const QVariant value = parseJson(json).value_or(QVariant());
     if (value.type() != QVariant::Map)

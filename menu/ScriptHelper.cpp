@@ -1,9 +1,9 @@
 #include "menu/ScriptHelper.h"
 
+#include "platform/FileContent.h"
 #include "platform/SignalBlocker.h"
 
 #include <QDebug>
-#include <QFile>
 #include <QScriptValueIterator>
 #include <QTextStream>
 
@@ -38,8 +38,7 @@ ScriptHelper::ScriptHelper(const DevicePaths &paths, ToolRunner runTool)
 
 QString ScriptHelper::settingsScript() const
 {
-    QFile file(paths.settingsScript);
-    return file.open(QIODevice::ReadOnly) ? QTextStream(&file).readAll() : QString();
+    return QTextStream(fileContent(paths.settingsScript).value_or(QByteArray())).readAll();
 }
 
 QScriptValue ScriptHelper::load()

@@ -2,6 +2,7 @@
 
 #include "json/JsonReader.h"
 #include "json/JsonWriter.h"
+#include "platform/FileContent.h"
 
 #include <QFile>
 #include <QLocale>
@@ -138,10 +139,7 @@ std::optional<DeviceState> stateFromJson(const QByteArray &json)
 
 std::optional<DeviceState> loadState(const QString &path)
 {
-    QFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    return stateFromJson(file.readAll());
+    return stateFromJson(fileContent(path).value_or(QByteArray()));
 }
 
 QByteArray stateJson(DeviceState state)

@@ -22,7 +22,8 @@ QString makeSimulatedDevice(const QString &directory, const QString &program,
     const bool isMade = QDir().mkpath(directory);
     const StateLock lock(directory);
     const bool isKnown = QFile::exists(state);
-    const std::optional<DeviceState> known = loadState(isKnown ? state : values);
+    const QString source = isKnown ? state : values;
+    const auto known = source.isEmpty() ? std::nullopt : loadState(source);
     if (isKnown && !known)
         return state + QStringLiteral(" is no JSON object; correct or remove it");
     if (QFileInfo(tool).isSymLink())

@@ -7,7 +7,9 @@
 #include "tests/support/FakeDevice.h"
 #include "tests/support/Rows.h"
 #include "tests/support/RunProgram.h"
+
 #include "tests/support/SourceFile.h"
+#include <sys/stat.h>
 
 // Screens that read and write a group called as their css.
 static const char helpers[] = R"(
@@ -219,6 +221,9 @@ private slots:
             QVERIFY(QFileInfo(path).isFile() && QFileInfo(path).size() == 0);
             QFile::remove(path);
         }
+        QVERIFY(mkfifo(qPrintable(stateFile(directory.path())), 0600) == 0);
+        QVERIFY(makeSimulatedDevice(directory.path(), program, files.paths(), {}, {})
+                    .contains("state.json is no JSON object"));
     }
 
     void refusesWrongUsage()
@@ -370,6 +375,12 @@ private slots:
         QCOMPARE(preview("2> /dev/full").status, 2);
         files.setScreens("[{css: '1', screens: []}]");
         QVERIFY(!preview("").messages.contains("error: "));
+        const QString table = files.paths().webRoot + "/locales/en/translation.json";
+        for (const QString &path : { table, files.paths().settingsScript }) {
+            QVERIFY(QFile::remove(path) && mkfifo(qPrintable(path), 0600) == 0);
+            QVERIFY(preview("").messages.contains(path + ": it is no regular file"));
+            QFile::remove(path);
+        }
     }
 
     void reportsCrashesOfTheEngine()
