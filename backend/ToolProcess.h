@@ -15,7 +15,7 @@ struct ToolEnd {
 };
 
 /// A program on pipes in a session of its own, without a terminal; it also leads its process group.
-/// Its standard input stays open and empty.
+/// Its standard input stays empty and open: its end would say that the caller is gone.
 class ToolProcess {
 public:
     enum StandardError { Discarded, Kept };
