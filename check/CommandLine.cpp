@@ -44,20 +44,24 @@ int failure(int status, const QString &text)
     return status;
 }
 
+void addOption(QCommandLineParser &parser, const char *name, const char *text, const char *value,
+    const QString &byDefault)
+{
+    parser.addOption({ QLatin1String(name), QLatin1String(text), QLatin1String(value), byDefault });
+}
+
 std::optional<int> parseCommandLine(QCommandLineParser &parser)
 {
-    const QCommandLineOption help(QStringLiteral("help"), QStringLiteral("Print this text."));
-    const QCommandLineOption version(
-        QStringLiteral("version"), QStringLiteral("Print the version."));
-    parser.addOptions({ help, version });
+    addOption(parser, "help", "Print this text.");
+    addOption(parser, "version", "Print the version.");
     if (!parser.parse(QCoreApplication::arguments()))
         return failure(wrongUsage, parser.errorText());
-    if (parser.isSet(help)) {
+    if (parser.isSet(QStringLiteral("help"))) {
         for (const QString &line : parser.helpText().split(QLatin1Char('\n')))
             print(stdout, line);
         return statusOfOutput(0);
     }
-    if (parser.isSet(version)) {
+    if (parser.isSet(QStringLiteral("version"))) {
         print(stdout, QCoreApplication::applicationName() + QLatin1Char(' ') + consoleVersion);
         return statusOfOutput(0);
     }

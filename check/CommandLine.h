@@ -25,6 +25,10 @@ void printMessage(QtMsgType type, const QMessageLogContext &context, const QStri
 /// Prints `text` on standard error after the name of the application and returns `status`.
 int failure(int status, const QString &text);
 
+/// Adds an option to the command line and its help text; `value` names the value that it takes.
+void addOption(QCommandLineParser &parser, const char *name, const char *text,
+    const char *value = "", const QString &byDefault = {});
+
 /// Parses the application's arguments; `--help` and `--version` are added to the options. Returns
 /// the exit status when there is nothing more to do: after help or version, and for wrong usage.
 std::optional<int> parseCommandLine(QCommandLineParser &parser);

@@ -4,7 +4,6 @@
 #include "check/ChangeableField.h"
 #include "check/QuietMessages.h"
 #include "check/Report.h"
-#include "check/ToolCalls.h"
 #include "json/JsonWriter.h"
 #include "menu/TreeBuilder.h"
 
@@ -40,14 +39,13 @@ QVector<int> changedPlaces(const WrittenScreen &screen, const QVariantList &befo
 
 class WriteBack {
 public:
-    WriteBack(const DevicePaths &paths, CallTrace &trace,
-        const std::function<void(const QStringList &)> &progress)
+    WriteBack(const DevicePaths &paths, CallTrace &trace, const ToolCalls::Progress &progress)
         : menu(paths,
             [=, &trace](const QStringList &arguments) {
                 if (!isWriting && words.mayWrite(arguments))
                     return QByteArray();
                 if (progress)
-                    progress(arguments);
+                    progress(++runs, arguments);
                 call = arguments;
                 return answer = trace.run(paths.backendTool, arguments).output;
             })
@@ -160,6 +158,7 @@ private:
         report.add(item, { finding }, item.index);
     }
 
+    int runs = 0; ///< of the tool
     QStringList call; ///< the last one
     QByteArray answer; ///< to that call
     bool isWriting = false;
@@ -174,8 +173,8 @@ private:
 
 } // namespace
 
-WriteBackReport writeBack(const DevicePaths &paths, CallTrace &trace,
-    const std::function<void(const QStringList &)> &progress)
+WriteBackReport writeBack(
+    const DevicePaths &paths, CallTrace &trace, const ToolCalls::Progress &progress)
 {
     const QuietMessages quiet;
     return WriteBack(paths, trace, progress).run();

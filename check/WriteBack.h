@@ -1,10 +1,8 @@
 // --write-back: whether a tool keeps what the console writes.
 #pragma once
 
-#include "check/CallTrace.h"
+#include "check/ToolCalls.h"
 #include "platform/DevicePaths.h"
-
-#include <functional>
 
 struct WriteBackReport {
     QStringList problems; ///< in the form of `menuProblems`
@@ -14,5 +12,5 @@ struct WriteBackReport {
 /// Writes the values of each screen that the console can write back to the tool of `paths`, as the
 /// tool has just answered them, and reads all these screens again. A screen whose values cannot be
 /// read completely is not written. `progress` is called before each run of the tool.
-WriteBackReport writeBack(const DevicePaths &paths, CallTrace &trace,
-    const std::function<void(const QStringList &arguments)> &progress = {});
+WriteBackReport writeBack(
+    const DevicePaths &paths, CallTrace &trace, const ToolCalls::Progress &progress = {});

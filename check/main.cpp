@@ -29,10 +29,41 @@ const QString description = QStringLiteral(
     "read or\noutput that cannot be written, 3 the script engine crashed on the definition, or "
     "its\nscript did not end.");
 
+void addOptions(QCommandLineParser &parser)
+{
+    addOption(parser, "web-root",
+        "Folder of the web interface, with scripts/settings.js and locales/.", "DIR",
+        DevicePaths().webRoot);
+    addOption(parser, "tree",
+        "Print the menu instead, everything opened and without values, with one compartment and "
+        "one meter, as with the electronic seal open. Status 0.");
+    addOption(parser, "device",
+        "Read the device, too, and report which answers do not fit the definition. With --tree "
+        "print the device's menu with all values instead.");
+    addOption(parser, "tool", "The backend tool to run.", "PATH", DevicePaths().backendTool);
+    addOption(parser, "trace", "Write each run of the tool to FILE, a JSON object a line.", "FILE");
+    addOption(parser, "layout",
+        "Print the calls that the console can make, with a row for each position of their values. "
+        "No tool is run. Status 0.");
+    addOption(parser, "write-back",
+        "For a test bench: write each screen's values back as they are read, and report which do "
+        "not stay.");
+}
+
 void print(std::FILE *file, const QStringList &lines)
 {
     for (const QString &line : lines)
         print(file, line);
+}
+
+CheckStatus statusOf(const QStringList &problems)
+{
+    return problems.isEmpty() ? Clean : HasProblems;
+}
+
+void showCall(int number, const QStringList &arguments)
+{
+    showProgress(QStringLiteral("%1: %2").arg(number).arg(shownCall(arguments)));
 }
 
 void read(LoadedMenu &menu, ToolCalls &calls, DeviceExtent extent)
@@ -43,49 +74,28 @@ void read(LoadedMenu &menu, ToolCalls &calls, DeviceExtent extent)
     clearProgress();
 }
 
-// Without the table the menu has keys instead of labels.
-void printTableFault(const QString &table)
-{
-    for (const Finding &finding : tableFindings(table))
-        print(stderr, table + QStringLiteral(": ") + finding.text);
-}
-
-CheckStatus printMenu(LoadedMenu &menu)
-{
-    print(stdout, menuOutline(menu));
-    return Clean;
-}
-
 // Values that are missing are an error, as the printed menu is made to be compared with another.
-CheckStatus printDeviceMenu(LoadedMenu &menu, ToolCalls &calls)
+CheckStatus printMenu(LoadedMenu &menu, ToolCalls &calls, bool isOfDevice)
 {
-    read(menu, calls, DeviceExtent::Values);
+    if (isOfDevice)
+        read(menu, calls, DeviceExtent::Values);
     print(stdout, menuOutline(menu));
-    const QStringList failed = failedCalls(calls);
+    const QStringList failed = isOfDevice ? failedCalls(calls) : QStringList();
     print(stderr, failed);
-    return failed.isEmpty() ? Clean : HasProblems;
+    return statusOf(failed);
 }
 
-CheckStatus reportMenu(LoadedMenu &menu)
+CheckStatus report(LoadedMenu &menu, ToolCalls &calls, bool isOfDevice)
 {
     const QStringList problems = menuProblems(menu);
     print(stdout, problems);
-    return problems.isEmpty() ? Clean : HasProblems;
-}
-
-CheckStatus reportDevice(LoadedMenu &menu, ToolCalls &calls)
-{
+    if (!isOfDevice)
+        return statusOf(problems);
     read(menu, calls, DeviceExtent::Everything);
-    const QStringList problems = deviceProblems(menu, calls);
-    print(stdout, problems);
+    const QStringList ofDevice = deviceProblems(menu, calls);
+    print(stdout, ofDevice);
     print(stderr, callSummary(calls));
-    return problems.isEmpty() ? Clean : HasProblems;
-}
-
-CheckStatus printLayout(const DevicePaths &paths)
-{
-    print(stdout, menuLayout(paths));
-    return Clean;
+    return statusOf(problems + ofDevice);
 }
 
 int reportWriteBack(const DevicePaths &paths, ToolCalls &calls)
@@ -95,14 +105,11 @@ int reportWriteBack(const DevicePaths &paths, ToolCalls &calls)
             CannotLoad, calls.tool + QStringLiteral(" cannot be started: ") + calls.fault());
     takeTime();
     killToolOnInterruption();
-    int number = 0;
-    const WriteBackReport report = writeBack(paths, calls.trace, [&](const QStringList &call) {
-        showProgress(QStringLiteral("%1: %2").arg(++number).arg(shownCall(call)));
-    });
+    const WriteBackReport report = writeBack(paths, calls.trace, showCall);
     clearProgress();
     print(stdout, report.problems);
     print(stderr, report.summary);
-    return report.problems.isEmpty() ? Clean : HasProblems;
+    return statusOf(report.problems);
 }
 
 struct Wishes {
@@ -119,25 +126,25 @@ int check(const DevicePaths &paths, const Wishes &wishes)
     if (!fault.isEmpty())
         return failure(CannotLoad, QStringLiteral("cannot load ") + fault);
     CTranslationHandler::setInstanceRoot(paths.webRoot);
-    ToolCalls calls(paths.backendTool, [](int number, const QStringList &arguments) {
-        showProgress(QStringLiteral("%1: %2").arg(number).arg(shownCall(arguments)));
-    });
+    ToolCalls calls(paths.backendTool, showCall);
     const QString problem = wishes.trace.isEmpty() ? QString() : calls.trace.open(wishes.trace);
     if (!problem.isEmpty())
         return failure(wrongUsage, problem);
     LoadedMenu menu(paths, [&calls](const QStringList &arguments) { return calls.run(arguments); });
     if (menu.root->children.empty())
-        return reportMenu(menu);
+        return report(menu, calls, false);
     if (wishes.writeBack)
         return reportWriteBack(paths, calls);
-    if (wishes.tree || wishes.layout)
-        printTableFault(translationTable(paths.webRoot));
-    if (wishes.layout)
-        return printLayout(paths);
+    if (!wishes.tree && !wishes.layout)
+        return report(menu, calls, wishes.device);
+    // Without the table the menu has keys instead of labels.
+    const QString table = translationTable(paths.webRoot);
+    for (const Finding &finding : tableFindings(table))
+        print(stderr, table + QStringLiteral(": ") + finding.text);
     if (wishes.tree)
-        return wishes.device ? printDeviceMenu(menu, calls) : printMenu(menu);
-    const CheckStatus ofMenu = reportMenu(menu);
-    return wishes.device ? qMax(ofMenu, reportDevice(menu, calls)) : ofMenu;
+        return printMenu(menu, calls, wishes.device);
+    print(stdout, menuLayout(paths));
+    return Clean;
 }
 
 int checkInOwnProcess(const DevicePaths &paths, const Wishes &wishes)
@@ -175,37 +182,17 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName(QStringLiteral("dravikon-menu-check"));
     QCommandLineParser parser;
     parser.setApplicationDescription(description);
-    const QCommandLineOption webRoot(QStringLiteral("web-root"),
-        QStringLiteral("Folder of the web interface, with scripts/settings.js and locales/."),
-        QStringLiteral("DIR"), DevicePaths().webRoot);
-    const QCommandLineOption tree(QStringLiteral("tree"),
-        QStringLiteral("Print the menu instead, everything opened and without values, with one "
-                       "compartment and one meter, as with the electronic seal open. Status 0."));
-    const QCommandLineOption device(QStringLiteral("device"),
-        QStringLiteral("Read the device, too, and report which answers do not fit the definition. "
-                       "With --tree print the device's menu with all values instead."));
-    const QCommandLineOption tool(QStringLiteral("tool"),
-        QStringLiteral("The backend tool to run."), QStringLiteral("PATH"),
-        DevicePaths().backendTool);
-    const QCommandLineOption trace(QStringLiteral("trace"),
-        QStringLiteral("Write each run of the tool to FILE, a JSON object a line."),
-        QStringLiteral("FILE"));
-    const QCommandLineOption layout(QStringLiteral("layout"),
-        QStringLiteral("Print the calls that the console can make, with a row for each position of "
-                       "their values. No tool is run. Status 0."));
-    const QCommandLineOption writeBack(QStringLiteral("write-back"),
-        QStringLiteral("For a test bench: write each screen's values back as they are read, and "
-                       "report which do not stay."));
-    parser.addOptions({ webRoot, tree, device, tool, trace, layout, writeBack });
-
+    addOptions(parser);
     if (const std::optional<int> status = parseCommandLine(parser))
         return *status;
-    const Wishes wishes { parser.isSet(device), parser.isSet(tree), parser.isSet(layout),
-        parser.isSet(writeBack), parser.value(trace) };
-    const QString fault = faultOf(wishes, parser.isSet(tool));
+    const auto isSet = [&parser](const char *name) { return parser.isSet(QLatin1String(name)); };
+    const QString trace = parser.value(QStringLiteral("trace"));
+    const Wishes wishes { isSet("device"), isSet("tree"), isSet("layout"), isSet("write-back"),
+        trace };
+    const QString fault = faultOf(wishes, isSet("tool"));
     if (!fault.isEmpty())
         return failure(wrongUsage, fault);
-    DevicePaths paths { parser.value(webRoot) };
-    paths.backendTool = QFileInfo(parser.value(tool)).absoluteFilePath();
+    DevicePaths paths { parser.value(QStringLiteral("web-root")) };
+    paths.backendTool = QFileInfo(parser.value(QStringLiteral("tool"))).absoluteFilePath();
     return checkInOwnProcess(paths, wishes);
 }

@@ -42,21 +42,22 @@ const QString description = QStringLiteral(
 
 void addOptions(QCommandLineParser &parser)
 {
-    const auto add = [&parser](const char *name, const char *text, const char *value = "") {
-        parser.addOption({ QLatin1String(name), QLatin1String(text), QLatin1String(value) });
-    };
-    add("web-root", "Folder of the web interface, with scripts/settings.js and locales/.", "DIR");
-    add("compartments", "Number of compartments, 3 unless the state has another.", "N");
-    add("meters", "Number of meters, 2 unless the state has another.", "N");
-    add("seal", "The electronic seal, open or closed; closed unless the state has it open.",
-        "SEAL");
-    add("state",
+    addOption(parser, "web-root",
+        "Folder of the web interface, with scripts/settings.js and locales/.", "DIR");
+    addOption(
+        parser, "compartments", "Number of compartments, 3 unless the state has another.", "N");
+    addOption(parser, "meters", "Number of meters, 2 unless the state has another.", "N");
+    addOption(parser, "seal",
+        "The electronic seal, open or closed; closed unless the state has it open.", "SEAL");
+    addOption(parser, "state",
         "Keep the device's state in DIR and continue from there next time; without it each "
         "session starts with a fresh device.",
         "DIR");
-    add("idle", "End after MS milliseconds without a key (default 180000).", "MS");
-    add("trace", "Write each run of the backend tool to FILE, a JSON object a line.", "FILE");
-    add("tool", "Run FILE as the backend tool; there is no simulated device then.", "FILE");
+    addOption(parser, "idle", "End after MS milliseconds without a key (default 180000).", "MS");
+    addOption(parser, "trace", "Write each run of the backend tool to FILE, a JSON object a line.",
+        "FILE");
+    addOption(
+        parser, "tool", "Run FILE as the backend tool; there is no simulated device then.", "FILE");
 }
 
 // Empty when the option is not given.
