@@ -16,9 +16,12 @@ namespace {
 
 const QStringList versionCall { QStringLiteral("--version") };
 
-// The numbers that the list query of a kind is asked with; only TAG passes them on.
+// The numbers that the list query of a kind is asked with; only TAG passes them on. The screen of
+// the Level interfaces is a placeholder and reads nothing.
 QVector<int> tagNumbers(InterfaceKind kind)
 {
+    if (kind == NoInterface || kind == LevelInterface)
+        return {};
     return kind == TagInterface ? QVector<int> { 0, 1 } : QVector<int> { 0 };
 }
 
@@ -47,11 +50,21 @@ public:
     }
 
 private:
+    // Reports the call if it was made. Returns its answer if it has one.
+    template <typename Place, typename... Instance>
+    std::optional<QVariantList> check(
+        const QStringList &call, const Place &place, Instance... instance)
+    {
+        const ToolCall *const made = calls.find(call);
+        if (!made)
+            return std::nullopt;
+        report.add(place, callFindings(calls, call), instance...);
+        return answerOf(*made);
+    }
+
     void checkSeal()
     {
-        const QStringList call = TreeViewItemHandler::sealQuery();
-        report.add(calls.tool, callFindings(calls, call));
-        if (const auto answer = answerOf(*calls.find(call)))
+        if (const auto answer = check(TreeViewItemHandler::sealQuery(), calls.tool))
             report.add(calls.tool, sealFindings(*answer));
     }
 
@@ -62,30 +75,26 @@ private:
             return;
         const TreeViewItem item(menu.screens.at(screen), {}, nullptr, -1, 0);
         const int place = positionOf(entry, item.definition, handler.names());
-        const QStringList call(handler.readBinding(item).value_or(QString()));
-        if (place < 0 || !calls.find(call))
+        if (place < 0)
             return;
-        report.add(item, callFindings(calls, call));
-        if (const auto answer = answerOf(*calls.find(call)))
+        if (const auto answer = check({ handler.readBinding(item).value_or(QString()) }, item))
             report.add(item, countValueFindings(*answer, place, QLatin1String(entry.field)));
     }
 
     void visit(const TreeViewItem &item, bool isShown)
     {
         isShown = isShown && (!item.parentItem || handler.isVisible(item));
-        const ToolCall *const call = calls.find(handler.readArguments(item));
-        if (call && item.parentItem && !item.children.empty())
-            checkScreen(item, *call, isShown);
-        if (isShown && item.children.empty() && handler.diagnoseScreen(item) != NoInterface)
+        if (item.parentItem && !item.children.empty())
+            checkScreen(item, isShown);
+        if (isShown && item.children.empty())
             checkInterface(item);
         for (const auto &child : item.children)
             visit(*child, isShown);
     }
 
-    void checkScreen(const TreeViewItem &screen, const ToolCall &call, bool isShown)
+    void checkScreen(const TreeViewItem &screen, bool isShown)
     {
-        report.add(screen, callFindings(calls, handler.readArguments(screen)), screen.index);
-        const auto answer = answerOf(call);
+        const auto answer = check(handler.readArguments(screen), screen, screen.index);
         if (!answer)
             return;
         report.add(screen, lengthFindings(handler, screen, *answer), screen.index);
@@ -110,11 +119,7 @@ private:
     {
         const InterfaceKind kind = handler.diagnoseScreen(item);
         for (const int tagNumber : tagNumbers(kind)) {
-            const QStringList call = TreeViewItemHandler::listQuery(kind, tagNumber);
-            if (!calls.find(call))
-                continue;
-            report.add(item, callFindings(calls, call));
-            if (const auto answer = answerOf(*calls.find(call)))
+            if (const auto answer = check(TreeViewItemHandler::listQuery(kind, tagNumber), item))
                 report.add(item, interfaceAnswerFindings(kind, tagNumber, *answer));
         }
     }
@@ -131,8 +136,7 @@ void readInterfaces(TreeViewItemHandler &handler, const TreeViewItem &item)
     if (item.parentItem && !handler.isVisible(item))
         return;
     const InterfaceKind kind = handler.diagnoseScreen(item);
-    // The screen of the Level interfaces is a placeholder and reads nothing.
-    if (item.children.empty() && kind != LevelInterface) {
+    if (item.children.empty()) {
         for (const int tagNumber : tagNumbers(kind))
             handler.interfaceList(kind, tagNumber);
     }

@@ -1,14 +1,16 @@
 #include "check/Layout.h"
 
+#include "check/Answer.h"
 #include "check/ChangeableField.h"
-#include "check/LayoutRow.h"
 #include "check/LoadedMenu.h"
 #include "check/QuietMessages.h"
-#include "check/ToolCalls.h"
+#include "json/Values.h"
 #include "locale/CTranslationHandler.h"
 #include "menu/CountEntry.h"
+#include "menu/Saturated.h"
 #include "render/ForeignText.h"
 #include "render/Frame.h"
+#include "render/InputValidation.h"
 
 #include <QSet>
 
@@ -20,14 +22,11 @@ constexpr int columns = 100;
 constexpr int textColumn = 10; // of what follows "read" and the like
 constexpr std::array<int, 5> cellColumns = { 0, 5, 35, 58, 77 };
 
-const QStringList legend {
-    QStringLiteral("NUMBER is that of the compartment or meter, from 0. VALUES are all values of "
-                   "the screen as a JSON"),
-    QStringLiteral("array, the last argument; an edit field writes texts, for numbers too, as in "
-                   "\"5000\". A read answers"),
-    QStringLiteral("an array with a value for each row, a write [true], or [false] to refuse the "
-                   "values."),
-};
+const QString legend = QStringLiteral(
+    "NUMBER is that of the compartment or meter, from 0. VALUES are all values of the screen as a "
+    "JSON array, the last argument; an edit field writes texts, for numbers too, as in \"5000\". A "
+    "read answers an array with a value for each row, a write [true], or [false] to refuse the "
+    "values.");
 
 // `text` in lines of `width`, broken at blanks where it has some.
 QStringList wrapped(const QString &text, int width)
@@ -42,6 +41,74 @@ QStringList wrapped(const QString &text, int width)
         rest.remove(0, blank > 0 ? blank + 1 : width);
     }
     return lines << rest;
+}
+
+// The values of a list as they are written, with their texts.
+QStringList options(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    QStringList lines;
+    for (int i = 0, count = handler.valueCount(item); i < count; ++i) {
+        const QVariant value =
+            handler.hasDatabaseValues(item) ? handler.databaseValueAt(item, i) : QVariant(i);
+        lines +=
+            shownValue(value) + QLatin1String(" = ") + translate(textOf(handler.valueAt(item, i)));
+    }
+    if (handler.isInteger(item))
+        lines += QStringLiteral("shown as the number");
+    return lines;
+}
+
+QString rule(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    const InputRule rule = inputRule(handler, item);
+    const bool isNumber = rule.kind == InputRule::Number;
+    if (!rule.length || (isNumber && !hasRange(handler, item)))
+        return QStringLiteral("accepts no text");
+    const QString range = QStringLiteral("%1 to %2, ")
+                              .arg(rangeValue(handler, item, 0))
+                              .arg(rangeValue(handler, item, 1));
+    return (isNumber ? range : QString()) + QStringLiteral("length %1").arg(*rule.length);
+}
+
+QStringList accepted(const TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    const InputKind kind = handler.inputKind(item);
+    if (kind == DropdownInput || kind == SelectLabelInput)
+        return options(handler, item);
+    if (kind == SliderInput) { // it can go one beyond its maximum
+        const int beyond = saturated<int>(qint64(handler.maximum(item)) + 1);
+        const QString range = QStringLiteral("%1 to %2, step %3").arg(handler.minimum(item));
+        return { range.arg(handler.maximum(item)).arg(handler.step(item)),
+            QStringLiteral("and %1").arg(beyond) };
+    }
+    if (kind == EditInput)
+        return { rule(handler, item) };
+    return { kind == BooleanInput ? QStringLiteral("true, false") : QString() };
+}
+
+QString kindWithMarks(TreeViewItemHandler &handler, const TreeViewItem &item)
+{
+    const InputKind kind = handler.inputKind(item);
+    const bool isReference = item.referringEntry.isValid() || !item.children.empty();
+    QStringList words(kind == NoInput ? QStringLiteral("value") : QLatin1String(inputWords[kind]));
+    if (isReference)
+        words = QStringList(QStringLiteral("reference"));
+    if (!handler.isVisible(item))
+        words += QStringLiteral("hidden");
+    handler.setAccessLevel(TreeViewItemHandler::sealedAccessLevel);
+    const bool isEditableSealed = handler.isEditable(item);
+    handler.setAccessLevel(TreeViewItemHandler::openAccessLevel);
+    if (hasDialog(kind) && !isReference && !isEditableSealed)
+        words += handler.isEditable(item) ? QStringLiteral("level 6") : QStringLiteral("read-only");
+    return words.join(QLatin1String(", "));
+}
+
+// The columns of a row, each a list of lines. The access level becomes that of an open seal.
+QVector<QStringList> layoutRow(TreeViewItemHandler &handler, const TreeViewItem &item, int position)
+{
+    return { { QString::number(position).rightJustified(4) }, { handler.labelKey(item) },
+        { translate(handler.labelKey(item)) }, { kindWithMarks(handler, item) },
+        accepted(handler, item) };
 }
 
 // The answers to the list queries of each kind's screen; the one for Level has none.
@@ -68,7 +135,7 @@ public:
 
     QStringList make()
     {
-        lines = legend;
+        lines = wrapped(legend, columns);
         addHeading(QStringLiteral("At start and on a resize"));
         addCall("call", { QStringLiteral("--version") });
         addText("answer", QStringLiteral("a text; the part before the first / is shown"));
