@@ -1,6 +1,8 @@
-// no-read, dead-read, hidden-read, no-write: "ajax-read" and "ajax-write" that are missing or idle.
+// no-read, dead-read, hidden-read, no-write, quotes, empty-words, same-words, exchanged-words:
+// "ajax-read" and "ajax-write".
 #pragma once
 
+#include "check/CallWords.h"
 #include "check/Finding.h"
 #include "menu/TreeViewItemHandler.h"
 
@@ -9,3 +11,7 @@ Findings bindingFindings(const TreeViewItemHandler &handler, const TreeViewItem 
 
 /// An "ajax-read" of a screen that every reference hides.
 Findings hiddenReadFindings(const TreeViewItemHandler &handler, const TreeViewItem &screen);
+
+/// Words of a screen that the tool cannot understand, or that write when they are to read.
+Findings wordFindings(
+    const TreeViewItemHandler &handler, const CallWords &words, const TreeViewItem &item);

@@ -7,7 +7,6 @@
 #include "check/InterfaceFindings.h"
 #include "check/QuietMessages.h"
 #include "check/Report.h"
-#include "check/SealFindings.h"
 #include "check/ValueFindings.h"
 #include "menu/CountEntry.h"
 #include "menu/TreeBuilder.h"

@@ -10,7 +10,6 @@
 #include "check/FindingNames.h"
 #include "check/InterfaceFindings.h"
 #include "check/ListFindings.h"
-#include "check/ListScreenFindings.h"
 #include "check/QuietMessages.h"
 #include "check/ReferenceFindings.h"
 #include "check/Report.h"
@@ -18,8 +17,6 @@
 #include "check/SliderFindings.h"
 #include "check/SpellingFindings.h"
 #include "check/TextFindings.h"
-#include "check/TypeFindings.h"
-#include "check/WordFindings.h"
 #include "menu/RepeatedScreen.h"
 
 #include <QSet>
