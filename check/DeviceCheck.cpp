@@ -7,6 +7,7 @@
 #include "check/InterfaceFindings.h"
 #include "check/QuietMessages.h"
 #include "check/Report.h"
+#include "check/ScreenFields.h"
 #include "check/ValueFindings.h"
 #include "menu/CountEntry.h"
 #include "menu/TreeBuilder.h"
@@ -104,13 +105,9 @@ private:
     // Entries beyond the last of `count` values have none to check.
     void checkValues(const TreeViewItem &screen, int count)
     {
-        for (const auto &child : screen.children) {
-            if (!handler.isValueBearing(*child))
-                continue;
-            if (--count < 0)
-                return;
-            if (handler.isVisible(*child))
-                report.add(*child, valueFindings(handler, *child), child->index);
+        for (const TreeViewItem *const field : fieldsWithValue(handler, screen).mid(0, count)) {
+            if (handler.isVisible(*field))
+                report.add(*field, valueFindings(handler, *field), field->index);
         }
     }
 

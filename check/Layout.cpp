@@ -1,9 +1,9 @@
 #include "check/Layout.h"
 
 #include "check/Answer.h"
-#include "check/ChangeableField.h"
 #include "check/LoadedMenu.h"
 #include "check/QuietMessages.h"
+#include "check/ScreenFields.h"
 #include "json/Values.h"
 #include "locale/CTranslationHandler.h"
 #include "menu/CountEntry.h"
@@ -73,7 +73,7 @@ QString rule(const TreeViewItemHandler &handler, const TreeViewItem &item)
 QStringList accepted(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
     const InputKind kind = handler.inputKind(item);
-    if (kind == DropdownInput || kind == SelectLabelInput)
+    if (isList(kind))
         return options(handler, item);
     if (kind == SliderInput) { // it can go one beyond its maximum
         const int beyond = saturated<int>(qint64(handler.maximum(item)) + 1);
@@ -207,23 +207,21 @@ private:
         TreeViewItemHandler &handler = menu.handler;
         const QStringList read =
             screen.parentItem ? withNumber(screen, handler.readArguments(screen)) : QStringList();
-        const TreeViewItem *const field = changeableField(handler, screen);
+        const TreeViewItem *const changeable = changeableField(handler, screen);
         const auto key = qMakePair(screen.definition.objectId(), screen.index >= 0);
-        if ((read.isEmpty() && !field) || done.contains(key))
+        if ((read.isEmpty() && !changeable) || done.contains(key))
             return;
         done.insert(key);
         addHeading(name);
         addCall("read", read);
-        if (field) {
-            handler.writeItemValues(*field);
+        if (changeable) {
+            handler.writeItemValues(*changeable);
             call.removeLast(); // the values
             addCall("write", withNumber(screen, call) << QStringLiteral("VALUES"));
         }
         int position = 0;
-        for (const auto &child : screen.children) {
-            if (handler.isValueBearing(*child))
-                addRow(layoutRow(handler, *child, ++position));
-        }
+        for (const TreeViewItem *const field : fieldsWithValue(handler, screen))
+            addRow(layoutRow(handler, *field, ++position));
     }
 
     static QStringList withNumber(const TreeViewItem &screen, QStringList arguments)

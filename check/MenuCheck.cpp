@@ -29,7 +29,7 @@ enum class Presence { Shown, HiddenByOmission, HiddenOnPurpose };
 Findings fieldFindings(const TreeViewItemHandler &handler, const TreeViewItem &item)
 {
     const InputKind kind = handler.inputKind(item);
-    if (kind == DropdownInput || kind == SelectLabelInput)
+    if (isList(kind))
         return listFindings(handler, item);
     if (!handler.isEditable(item))
         return {};
@@ -72,17 +72,14 @@ private:
         if (!item.definition.isObject())
             return;
         addDefinition(item);
-        report.add(item, selfReferenceFindings(menu, item, ledBackTo));
-        report.add(item, fieldEntryFindings(handler, item));
-        report.add(item, listScreenFindings(menu, item));
-        report.add(item, typeFindings(handler, item));
-        report.add(item, interfaceFindings(handler, item));
-        report.add(item, listCountFindings(menu, item));
+        report.add(item,
+            selfReferenceFindings(menu, item, ledBackTo) + fieldEntryFindings(handler, item)
+                + listScreenFindings(menu, item) + typeFindings(handler, item)
+                + interfaceFindings(handler, item) + listCountFindings(menu, item));
         if (presence == Presence::Shown) {
-            report.add(item, accessFindings(handler, item));
-            report.add(item, wordFindings(handler, words, item));
-            report.add(item, bindingFindings(handler, item));
-            report.add(item, fieldFindings(handler, item));
+            report.add(item,
+                accessFindings(handler, item) + wordFindings(handler, words, item)
+                    + bindingFindings(handler, item) + fieldFindings(handler, item));
             if (item.parentItem)
                 report.add(item, textFindings(handler, item));
         }
@@ -101,8 +98,7 @@ private:
             report.add(item, entryFindings(menu, item.definition));
         if (!areKnown || isRepeatedScreen(item.definition, names))
             report.add(item, referenceFindings(menu, item.definition));
-        report.add(item, spellingFindings(handler, item));
-        report.add(item, nameFindings(item.definition));
+        report.add(item, spellingFindings(handler, item) + nameFindings(item.definition));
     }
 
     Presence presenceOf(const TreeViewItem &item) const

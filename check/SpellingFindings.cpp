@@ -35,7 +35,7 @@ Attributes attributesOf(const TreeViewItemHandler &handler, const TreeViewItem &
         { names.screens, Form::List }, { names.read, Form::Text }, { names.write, Form::Text },
         { QStringLiteral("checkIgnore"), Form::Text } };
     const InputKind kind = handler.inputKind(item);
-    if (kind == DropdownInput || kind == SelectLabelInput) {
+    if (isList(kind)) {
         attributes += { { names.values, Form::List }, { names.dbValues, Form::List },
             { names.integer, Form::Flag } };
     } else if (kind == SliderInput) {

@@ -93,7 +93,7 @@ Findings textFindings(const TreeViewItemHandler &handler, const TreeViewItem &it
             "its label reaches %1 columns into the value on a terminal of %2 columns; shorten it",
             surplus, standardColumns);
     }
-    if (kind == DropdownInput || kind == SelectLabelInput)
+    if (isList(kind))
         findings += optionFindings(handler, item);
     return findings;
 }

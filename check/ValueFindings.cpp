@@ -3,6 +3,7 @@
 #include "check/Answer.h"
 #include "check/EditFindings.h"
 #include "check/ListFindings.h"
+#include "check/ScreenFields.h"
 #include "check/SliderFindings.h"
 #include "check/TextFindings.h"
 #include "locale/CTranslationHandler.h"
@@ -48,10 +49,8 @@ Findings lengthFindings(
     const TreeViewItemHandler &handler, const TreeViewItem &screen, const QVariantList &answer)
 {
     QStringList labels;
-    for (const auto &child : screen.children) {
-        if (handler.isValueBearing(*child))
-            labels += labelOf(handler, *child);
-    }
+    for (const TreeViewItem *const field : fieldsWithValue(handler, screen))
+        labels += labelOf(handler, *field);
     const QString values = distribution(labels, answer);
     if (labels.size() > answer.size()) {
         return { error("few-values",

@@ -1,9 +1,9 @@
 #include "check/WriteBack.h"
 
 #include "check/CallWords.h"
-#include "check/ChangeableField.h"
 #include "check/QuietMessages.h"
 #include "check/Report.h"
+#include "check/ScreenFields.h"
 #include "json/JsonWriter.h"
 #include "menu/TreeBuilder.h"
 
@@ -13,7 +13,7 @@ namespace {
 
 struct WrittenScreen {
     TreeViewItem *item;
-    QVector<const TreeViewItem *> fields; ///< those with a value
+    Fields fields; ///< those with a value
     QVariantList values; ///< as last read
     QSet<int> moving; ///< the places, from 0, of values that change by themselves
 };
@@ -91,11 +91,7 @@ private:
         if (item.parentItem && !handler.readArguments(item).isEmpty()
             && changeableField(handler, item) && !found.contains(key)) {
             found.insert(key);
-            screens.push_back({ &item, {}, {}, {} });
-            for (const auto &child : item.children) {
-                if (handler.isValueBearing(*child))
-                    screens.back().fields += child.get();
-            }
+            screens.push_back({ &item, fieldsWithValue(handler, item), {}, {} });
         }
         for (const auto &child : item.children)
             find(*child);
@@ -137,18 +133,16 @@ private:
             for (const int place : changedPlaces(screen, before)) {
                 const QString was = exact(before, place);
                 const QString is = exact(screen.values, place);
-                if (&screen == &writtenOne) {
-                    add(*screen.fields.at(place),
-                        error("changed-value",
-                            "value %1 was written as %2 and is read as %3; keep what is written",
-                            place + 1, was, is));
-                } else {
-                    add(*writtenOne.item,
-                        error("changed-screen",
-                            "its write changes value %1 of <%2> from %3 to %4; keep the screens "
-                            "apart",
-                            place + 1, shownCall(handler.readArguments(*screen.item)), was, is));
-                }
+                const Finding ofValue = error("changed-value",
+                    "value %1 was written as %2 and is read as %3; keep what is written", place + 1,
+                    was, is);
+                const Finding ofScreen = error("changed-screen",
+                    "its write changes value %1 of <%2> from %3 to %4; keep the screens apart",
+                    place + 1, shownCall(handler.readArguments(*screen.item)), was, is);
+                if (&screen == &writtenOne)
+                    add(*screen.fields.at(place), ofValue);
+                else
+                    add(*writtenOne.item, ofScreen);
             }
         }
     }

@@ -29,6 +29,12 @@ constexpr bool hasDialog(InputKind kind)
         || kind == SliderInput;
 }
 
+/// True for the kinds whose values are choices of a list.
+constexpr bool isList(InputKind kind)
+{
+    return kind == DropdownInput || kind == SelectLabelInput;
+}
+
 /// Words of "type", but for those of compartment and meter buttons.
 enum TypeKind {
     CompartmentStatusType,

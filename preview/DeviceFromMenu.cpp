@@ -1,6 +1,7 @@
 #include "preview/DeviceFromMenu.h"
 
 #include "check/LoadedMenu.h"
+#include "check/ScreenFields.h"
 #include "json/JsonReader.h"
 #include "json/Values.h"
 #include "menu/CountEntry.h"
@@ -172,9 +173,7 @@ private:
         DeviceGroup &group = groups[words];
         QHash<QString, int> labels;
         int place = 0;
-        for (const auto &child : item.children) {
-            if (!handler.isValueBearing(*child))
-                continue;
+        for (const TreeViewItem *const child : fieldsWithValue(handler, item)) {
             const QString label = handler.labelKey(*child);
             const int number = ++labels[label];
             if (place++ < group.keys.size())

@@ -97,9 +97,8 @@ private:
         QString text = textOf(item.value);
         if (text.isEmpty())
             return text;
-        const InputKind kind = handler.inputKind(item);
-        const bool isList = kind == DropdownInput || kind == SelectLabelInput;
-        return isList && !handler.isInteger(item) ? listText(item) : resolveMarks(text);
+        return isList(handler.inputKind(item)) && !handler.isInteger(item) ? listText(item)
+                                                                           : resolveMarks(text);
     }
 
     QString listText(const TreeViewItem &item)
