@@ -24,6 +24,12 @@ namespace {
 constexpr int noSession = -1;
 constexpr int notPrinted = 2;
 constexpr int exitToShellStatus = 80;
+constexpr char usage[] = "\n"
+                         "Dravikon usage:\n"
+                         "==========================\n"
+                         "    -h or when wrong parameter this usage\n"
+                         "    --version version of this binary\n"
+                         "\n";
 
 // Returns the exit status.
 int print(const QByteArray &text)
@@ -32,21 +38,6 @@ int print(const QByteArray &text)
         return noSession;
     qCritical("The text cannot be written: %s", std::strerror(errno));
     return notPrinted;
-}
-
-int printVersion()
-{
-    return print("Tavrolink-Dravikon-Version: " + QByteArray(consoleVersion.data()) + '\n');
-}
-
-int printUsage()
-{
-    return print("\n"
-                 "Dravikon usage:\n"
-                 "==========================\n"
-                 "    -h or when wrong parameter this usage\n"
-                 "    --version version of this binary\n"
-                 "\n");
 }
 
 int runConsole(const SessionOptions &options)
@@ -83,5 +74,7 @@ int runSession(int &argc, char **argv, const SessionOptions &options)
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() < 2)
         return runConsole(options);
-    return arguments.at(1) == QLatin1String("--version") ? printVersion() : printUsage();
+    if (arguments.at(1) != QLatin1String("--version"))
+        return print(usage);
+    return print("Tavrolink-Dravikon-Version: " + QByteArray(consoleVersion.data()) + '\n');
 }

@@ -10,12 +10,6 @@
 #include <syslog.h>
 #include <unistd.h>
 
-namespace {
-
-constexpr int maximumLength = 8192; // log daemons take no more as one message
-
-} // namespace
-
 SystemLog::SystemLog(const QByteArray &socketPath)
     : socketPath(socketPath)
 {
@@ -29,6 +23,7 @@ SystemLog::~SystemLog()
 
 bool SystemLog::send(int priority, const QByteArray &line)
 {
+    constexpr int maximumLength = 8192; // log daemons take no more as one message
     // The daemon adds the time.
     const QByteArray message = '<' + QByteArray::number(LOG_USER | priority) + '>'
         + QByteArray(program_invocation_short_name) + '[' + QByteArray::number(getpid())

@@ -89,27 +89,19 @@ void TerminalGui::refreshView()
 
 void TerminalGui::prepareView()
 {
-    if (state.requestedView == MenuView)
-        openMenu();
-    else
+    const bool isMenu = state.requestedView == MenuView;
+    if (isMenu && !root) {
+        root = handler.build();
+        numberItems();
+    }
+    if (!isMenu)
         state.resetDialog();
-    if (state.requestedView == StartView) {
+    if (isMenu || state.requestedView == StartView) {
         state.overlayLines.clear();
         state.step = 1;
         screen.setCursorVisible(false);
     }
     state.currentView = state.requestedView;
-}
-
-void TerminalGui::openMenu()
-{
-    if (!root) {
-        root = handler.build();
-        numberItems();
-    }
-    state.overlayLines.clear();
-    state.step = 1;
-    screen.setCursorVisible(false);
 }
 
 void TerminalGui::numberItems()

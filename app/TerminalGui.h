@@ -60,7 +60,6 @@ public slots:
 
 private:
     void prepareView();
-    void openMenu();
     void numberItems();
     void drawMenu();
     void buildOverlay(int line);

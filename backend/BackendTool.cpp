@@ -53,7 +53,7 @@ void endTool(ToolProcess &tool)
         return;
     const QDeadlineTimer death(deathMs);
     while (tool.isRunning() && !death.hasExpired())
-        tool.waitForEnd(int(death.remainingTime()));
+        tool.wait(int(death.remainingTime()), ToolProcess::End);
 }
 
 // Measures a run in laps of at most `sliceMs`. A longer one means that this program was stopped.

@@ -154,20 +154,11 @@ ToolProcess::~ToolProcess()
         unreaped += child;
 }
 
-void ToolProcess::wait(int timeoutMs)
+void ToolProcess::wait(int timeoutMs, Awaited awaited)
 {
-    waitFor(outputEnd, errorEnd, timeoutMs);
-}
-
-void ToolProcess::waitForEnd(int timeoutMs)
-{
-    waitFor(-1, -1, timeoutMs);
-}
-
-void ToolProcess::waitFor(int output, int errors, int timeoutMs)
-{
-    std::array<pollfd, 3> events = { { { output, POLLIN, 0 }, { errors, POLLIN, 0 },
-        { pidfd, POLLIN, 0 } } };
+    const bool isEnd = awaited == End;
+    std::array<pollfd, 3> events = { { { isEnd ? -1 : outputEnd, POLLIN, 0 },
+        { isEnd ? -1 : errorEnd, POLLIN, 0 }, { pidfd, POLLIN, 0 } } };
     // Linux before 5.3 has no pidfd: look again every millisecond.
     poll(events.data(), events.size(), pidfd >= 0 ? timeoutMs : qMin(timeoutMs, 1));
     // With SIGCHLD ignored an ended child is reaped at once, and waitid fails.

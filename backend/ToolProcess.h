@@ -41,11 +41,10 @@ public:
     /// that ignores SIGCHLD sees every program exit with 0.
     ToolEnd end() const { return toolEnd; }
 
-    /// Waits until there is output, the program ends, a signal comes or `timeoutMs` is over.
-    void wait(int timeoutMs);
+    enum Awaited { OutputOrEnd, End };
 
-    /// Waits as `wait` does, but not for output.
-    void waitForEnd(int timeoutMs);
+    /// Waits until what is awaited is there, a signal comes or `timeoutMs` is over.
+    void wait(int timeoutMs, Awaited awaited = OutputOrEnd);
 
     /// Appends some of the program's output to `output`; false when there is none now.
     bool takeOutput(QByteArray &output);
@@ -54,8 +53,6 @@ public:
     bool takeErrors(QByteArray &errors);
 
 private:
-    void waitFor(int output, int errors, int timeoutMs);
-
     pid_t child = 0;
     bool running = false;
     ToolEnd toolEnd {};

@@ -3,7 +3,7 @@
 #include "json/JsonWriter.h"
 #include "json/Values.h"
 
-std::optional<QVariant> jsonOf(const ToolCall &call, JsonFault *fault)
+std::optional<QVariant> jsonOf(const ToolCall &call, QString *fault)
 {
     return parseJson(QString::fromUtf8(call.output).toUtf8(), fault);
 }

@@ -5,7 +5,7 @@
 #include "json/JsonReader.h"
 
 /// The JSON value that the tool printed; nothing, and the reason in `fault`, when it is none.
-std::optional<QVariant> jsonOf(const ToolCall &call, JsonFault *fault = nullptr);
+std::optional<QVariant> jsonOf(const ToolCall &call, QString *fault = nullptr);
 
 /// The elements of the JSON array that the tool printed; nothing when it printed anything else.
 std::optional<QVariantList> answerOf(const ToolCall &call);

@@ -42,7 +42,7 @@ QString andEnd(const ToolCall &call)
 QString whyNoArray(const QStringList &arguments, const ToolCall &call)
 {
     QStringList texts;
-    JsonFault fault;
+    QString fault;
     if (call.end.kind == ToolEnd::PrintedTooMuch)
         texts += QStringLiteral("printed more than 16 MiB, which is no answer");
     else if (call.output.trimmed().isEmpty())
@@ -50,7 +50,7 @@ QString whyNoArray(const QStringList &arguments, const ToolCall &call)
     else if (jsonOf(call, &fault))
         texts += QStringLiteral("printed JSON that is no array; put the values between [ and ]");
     else
-        texts += QStringLiteral("printed no JSON, %1; the answer begins with ").arg(fault.text())
+        texts += QStringLiteral("printed no JSON, %1; the answer begins with ").arg(fault)
             + excerpt(call.output);
     if (arguments.size() == 1 && arguments.first().contains(QLatin1Char(' ')))
         texts += QStringLiteral("for this number all words come as one argument");

@@ -32,8 +32,8 @@ Findings tableFindings(const QString &path)
     if (json.startsWith("\xef\xbb\xbf"))
         return { error(
             "translation-table", text, QStringLiteral("it begins with a byte order mark")) };
-    JsonFault fault;
+    QString fault;
     if (parseJson(json, &fault))
         return { error("translation-table", text, QStringLiteral("it is no JSON object")) };
-    return { error("translation-table", text, fault.text()) };
+    return { error("translation-table", text, fault) };
 }

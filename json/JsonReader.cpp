@@ -86,7 +86,7 @@ private:
     std::vector<Container> containers; ///< those that are not complete, outermost first
 };
 
-JsonFault faultAt(const QByteArray &json, size_t offset, rapidjson::ParseErrorCode error)
+QString faultAt(const QByteArray &json, size_t offset, rapidjson::ParseErrorCode error)
 {
     const QByteArray before = json.left(int(offset));
     const QByteArray line = before.mid(before.lastIndexOf('\n') + 1);
@@ -97,12 +97,15 @@ JsonFault faultAt(const QByteArray &json, size_t offset, rapidjson::ParseErrorCo
         reason = QStringLiteral("A number is too large, or the nesting too deep");
     else
         reason.chop(1); // the full stop
-    return { before.count('\n') + 1, QString::fromUtf8(line).size() + 1, reason };
+    return QStringLiteral("line %1, column %2: %3")
+        .arg(before.count('\n') + 1)
+        .arg(QString::fromUtf8(line).size() + 1)
+        .arg(reason);
 }
 
 } // namespace
 
-std::optional<QVariant> parseJson(const QByteArray &json, JsonFault *fault)
+std::optional<QVariant> parseJson(const QByteArray &json, QString *fault)
 {
     // The iterative parser keeps hostile nesting off the stack; the library's own way to read
     // numbers is either inexact or undefined for a zero with an exponent.

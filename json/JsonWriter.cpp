@@ -9,11 +9,6 @@ namespace {
 
 using Writer = rapidjson::Writer<rapidjson::StringBuffer>;
 
-bool writeRaw(Writer &writer, const QByteArray &json, rapidjson::Type type)
-{
-    return writer.RawValue(json.constData(), size_t(json.size()), type);
-}
-
 bool writeDouble(Writer &writer, double number, int digits)
 {
     if (!std::isfinite(number))
@@ -23,7 +18,7 @@ bool writeDouble(Writer &writer, double number, int digits)
         number == 0 && std::signbit(number) ? "-0" : QByteArray::number(number, 'g', digits);
     if (!json.contains('.') && !json.contains('e'))
         json += ".0";
-    return writeRaw(writer, json, rapidjson::kNumberType);
+    return writer.RawValue(json.constData(), size_t(json.size()), rapidjson::kNumberType);
 }
 
 // The library's own escapes stop at half a surrogate pair; a text goes out as it is, unit by unit.
@@ -43,7 +38,7 @@ bool writeText(Writer &writer, const QString &text)
         }
     }
     json += '"';
-    return writeRaw(writer, json, rapidjson::kStringType);
+    return writer.RawValue(json.constData(), size_t(json.size()), rapidjson::kStringType);
 }
 
 bool writeValue(Writer &writer, const QVariant &value, int digits)

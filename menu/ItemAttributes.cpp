@@ -10,14 +10,12 @@
 namespace {
 
 // A script can claim any length for its lists; nobody scrolls through more than this.
-constexpr int maximumValues = 100000;
+constexpr double maximumValues = 100000;
 
 // The index of the value's text among `words`; `count` when it is not among them.
 template <size_t count>
 size_t indexOfWord(const QScriptValue &value, const std::array<const char *, count> &words)
 {
-    if (!value.isValid())
-        return count;
     const QString text = value.toString();
     size_t index = 0;
     while (index < count && text != QLatin1String(words[index]))
@@ -28,11 +26,6 @@ size_t indexOfWord(const QScriptValue &value, const std::array<const char *, cou
 std::optional<QString> textIfPresent(const QScriptValue &value)
 {
     return value.isValid() ? std::make_optional(value.toString()) : std::nullopt;
-}
-
-int integer(const QScriptValue &value)
-{
-    return saturated<int>(value.toInteger());
 }
 
 // Nothing where the list has no such entry. A number without a fraction is an integer on its way to
@@ -124,8 +117,6 @@ bool TreeViewItemHandler::isExcluded(const TreeViewItem &item) const
     QScriptValue css = item.definition.property(propertyNames.css);
     if (!css.isValid())
         css = item.referringEntry.property(propertyNames.css);
-    if (!css.isValid())
-        return false;
     const QString name = css.toString();
     return name.contains(QLatin1String("TODO")) || name == QLatin1String("btnLoadingplan")
         || name == QLatin1String("btnServiceLoadingplan");
@@ -136,25 +127,15 @@ bool TreeViewItemHandler::isInteger(const TreeViewItem &item) const
     return item.definition.property(propertyNames.integer).toBool();
 }
 
-int TreeViewItemHandler::minimum(const TreeViewItem &item) const
+int TreeViewItemHandler::integer(const TreeViewItem &item, const QScriptString &name)
 {
-    return integer(item.definition.property(propertyNames.minimum));
-}
-
-int TreeViewItemHandler::maximum(const TreeViewItem &item) const
-{
-    return integer(item.definition.property(propertyNames.maximum));
-}
-
-int TreeViewItemHandler::step(const TreeViewItem &item) const
-{
-    return integer(item.definition.property(propertyNames.step));
+    return saturated<int>(item.definition.property(name).toInteger());
 }
 
 int TreeViewItemHandler::valueCount(const TreeViewItem &item) const
 {
     const QScriptValue values = item.definition.property(propertyNames.values);
-    return qBound(0, integer(values.property(propertyNames.length)), maximumValues);
+    return int(qBound(0.0, values.property(propertyNames.length).toInteger(), maximumValues));
 }
 
 QVariant TreeViewItemHandler::valueAt(const TreeViewItem &item, int i) const

@@ -38,8 +38,6 @@ private:
     void expand(TreeViewItem &item, int index)
     {
         const QScriptValue entries = item.definition.property(names.screens);
-        if (!entries.isValid())
-            return;
         const int repetitions =
             isMeterButton(item.definition, names) ? counts.meters : counts.compartments;
         if (repetitions > 0 && isRepeatedScreen(item.definition, names))

@@ -66,9 +66,9 @@ public:
     /// True for screens that are not for the console: "TODO" in the css, and loading plans.
     bool isExcluded(const TreeViewItem &item) const;
     bool isInteger(const TreeViewItem &item) const;
-    int minimum(const TreeViewItem &item) const;
-    int maximum(const TreeViewItem &item) const;
-    int step(const TreeViewItem &item) const;
+    int minimum(const TreeViewItem &item) const { return integer(item, propertyNames.minimum); }
+    int maximum(const TreeViewItem &item) const { return integer(item, propertyNames.maximum); }
+    int step(const TreeViewItem &item) const { return integer(item, propertyNames.step); }
     int valueCount(const TreeViewItem &item) const;
     /// The entry of "values" at `i`; an empty text when there is none.
     QVariant valueAt(const TreeViewItem &item, int i) const;
@@ -123,6 +123,7 @@ public:
     /// @}
 
 private:
+    static int integer(const TreeViewItem &item, const QScriptString &name);
     QVariant lookUpCount(const ScreenIndex &screens, const CountEntry &entry);
     bool readValues(TreeViewItem &item);
     void readOpenItems(TreeViewItem &item);

@@ -3,15 +3,6 @@
 #include "render/Bars.h"
 #include "render/MenuView.h"
 
-namespace {
-
-QString closed(const QString &line, int width)
-{
-    return cutToWidth(line, width) + Escape::eraseToEndOfLine + Escape::reset;
-}
-
-} // namespace
-
 Frame composeFrame(const ViewState &state, const QString &title)
 {
     const int rows = state.termRows;
@@ -33,7 +24,7 @@ Frame composeFrame(const ViewState &state, const QString &title)
         }
         if (line == state.selectedIndex && state.currentView != StartView)
             text.prepend(Escape::highlight);
-        frame.insert(row, closed(text, columns));
+        frame.insert(row, cutToWidth(text, columns) + Escape::eraseToEndOfLine + Escape::reset);
     }
     frame.insert(rows - 1, cutToWidth(title, columns));
     return frame;

@@ -47,8 +47,8 @@ private slots:
 
     void refusesWhatIsNoJson()
     {
-        JsonFault fault;
-        QVERIFY(!parseJson({ "1\0", 2 }, &fault) && fault.reason.startsWith("A zero"));
+        QString fault;
+        QVERIFY(!parseJson({ "1\0", 2 }, &fault) && fault.endsWith("2: A zero byte ends the text"));
         QVERIFY(!jsonText(QVariantList { 1, QVariantMap { { "a", qInf() } } }));
     }
 
