@@ -52,7 +52,7 @@ std::optional<int> KeyDecoder::feed(int byte)
         keyBuffer += char(byte);
         return std::nullopt;
     }
-    // The byte after "5" or "6" is decoded anew; unless it is "~", they have no effect.
+    // Only "~" completes these; any other byte is decoded as if they had not come.
     if (byte == '5' || byte == '6') {
         pendingKey = byte == '5' ? Qt::Key_PageUp : Qt::Key_PageDown;
         return std::nullopt;

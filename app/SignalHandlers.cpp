@@ -145,7 +145,7 @@ void onStop(int)
         onContinue(SIGCONT);
 }
 
-// Fatal with a fixed text, in which `line` is no current line of the source.
+// On failure fatal with a fixed text; `line` belongs to it and is no line of this file.
 void installHandler(int number, int line)
 {
     if (!setHandler(number, onSignal))

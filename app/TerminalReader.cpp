@@ -74,13 +74,13 @@ bool TerminalReader::waitForInput(int limitMs)
     const timespec timeout = { waitMs / 1000, waitMs % 1000 * 1000000L };
     const int result = ppoll(
         &input, stdinNotifier->isEnabled() ? 1 : 0, waitMs < 0 ? nullptr : &timeout, &waitMask);
-    arrivedBytes = 0; // Ctrl-Z discards what was counted
+    arrivedBytes = 0; // the terminal discards its input on Ctrl-Z, so count again
     if (!isBurst)
         screen.afterWait();
     return result > 0 || (result == 0 && isWholeWait);
 }
 
-// True when keys are known to wait. While the tool runs, more of them come.
+// True when there are keys to read. They are counted again, as they also come while the tool runs.
 bool TerminalReader::hasInput()
 {
     constexpr int freshMs = 5;

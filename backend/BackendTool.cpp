@@ -36,8 +36,8 @@ std::unique_ptr<ToolProcess> start(
     return tool;
 }
 
-// False for a tool that runs as another user. The answer of the kill by group would only say that
-// some process of the group was signalled.
+// False for a tool that runs as another user. The kill of its group may succeed all the same, when
+// another process of the group could be signalled.
 bool killTool(pid_t tool) noexcept
 {
     // kill(0) would signal our own group, kill(-1) every process.

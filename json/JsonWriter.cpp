@@ -13,7 +13,7 @@ bool writeDouble(Writer &writer, double number, int digits)
 {
     if (!std::isfinite(number))
         return false;
-    // The sign of a negative zero is a digit too, but not for the library.
+    // The toolkit writes a negative zero without its sign.
     QByteArray json =
         number == 0 && std::signbit(number) ? "-0" : QByteArray::number(number, 'g', digits);
     if (!json.contains('.') && !json.contains('e'))
@@ -21,7 +21,7 @@ bool writeDouble(Writer &writer, double number, int digits)
     return writer.RawValue(json.constData(), size_t(json.size()), rapidjson::kNumberType);
 }
 
-// The library's own escapes stop at half a surrogate pair; a text goes out as it is, unit by unit.
+// The library fails at half a surrogate pair; this writes each UTF-16 unit as it is.
 bool writeText(Writer &writer, const QString &text)
 {
     QByteArray json;

@@ -28,9 +28,9 @@ std::optional<QString> textIfPresent(const QScriptValue &value)
     return value.isValid() ? std::make_optional(value.toString()) : std::nullopt;
 }
 
-// Nothing where the list has no such entry. A number without a fraction is an integer on its way to
-// the backend, as far as 64 bits reach. An object is its text: the engine's conversion of one that
-// is nested deeply overflows the stack.
+// Nothing where the list has no such entry. A number without a fraction becomes an integer if it
+// fits into 64 bits. An object becomes its text: the engine's conversion of one that is nested
+// deeply overflows the stack.
 std::optional<QVariant> entryAt(const QScriptValue &list, int i)
 {
     constexpr double wordLimit = 18446744073709551616.0; // 2^64

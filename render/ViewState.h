@@ -43,7 +43,7 @@ struct ViewState {
     int step = 1; ///< what one key press moves
 
     QString editBuffer; ///< the text being edited
-    /// What the selected item held when its dialog opened, while it holds a value chosen since.
+    /// What the selected item held when its dialog opened; set while it holds a value chosen there.
     std::optional<QVariant> formerValue;
     QString statusText = QStringLiteral("-"); ///< a note for debuggers; shown nowhere
     QString dbcVersion; ///< the version of the backend tool
