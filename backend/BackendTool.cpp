@@ -63,7 +63,7 @@ public:
 
     void endLap()
     {
-        constexpr qint64 longestNs = 4 * sliceMs * 1000000LL;
+        constexpr qint64 longestNs = 4LL * sliceMs * 1000000;
         elapsedNs += qMin(lap.nsecsElapsed(), longestNs);
         lap.start();
     }

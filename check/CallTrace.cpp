@@ -64,7 +64,7 @@ QString CallTrace::open(const QString &path)
 ToolRun CallTrace::run(const QString &tool, const QStringList &arguments, int timeoutMs)
 {
     const QTime start = QTime::currentTime();
-    const ToolRun run = BackendTool::observedRun(tool, arguments, timeoutMs);
+    ToolRun run = BackendTool::observedRun(tool, arguments, timeoutMs);
     const QByteArrayList members {
         member("time", start.toString(QStringLiteral("HH:mm:ss.zzz")).toLatin1()),
         member("ms", QVariant(run.durationUs / 1000)),

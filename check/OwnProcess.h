@@ -15,7 +15,8 @@ struct WorkEnd {
 };
 
 /// Does `work` in a child process and waits for it. The child gets SIGTERM when this process ends,
-/// and SIGALRM after half a minute unless it calls `takeTime`.
+/// and SIGALRM after half a minute unless it calls `takeTime`. SIGINT and SIGQUIT end the work
+/// first and then this process.
 WorkEnd doInOwnProcess(const std::function<int()> &work);
 
 /// Allows the work in this process to take longer, when it no longer depends on the script alone.
