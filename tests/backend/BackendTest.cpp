@@ -42,8 +42,8 @@ private slots:
     // While the console itself is stopped, the tool's time does not run out.
     void waitsForToolsAfterAStop()
     {
-        device.setTool("kill -STOP $PPID; sleep 2; kill -CONT $PPID; sleep 0.2; echo [1]");
-        const int timeoutMs = int(PtySession::scaled(1000));
+        device.setTool("kill -STOP $PPID; sleep 1; kill -CONT $PPID; sleep 0.1; echo [1]");
+        const int timeoutMs = int(PtySession::scaled(500));
         const ToolRun run = BackendTool::observedRun(device.paths().backendTool, {}, timeoutMs);
         QCOMPARE(run.output, QByteArray("[1]\n"));
         QVERIFY(run.durationUs > 0 && run.durationUs < (timeoutMs + 500) * 1000LL);
@@ -84,8 +84,8 @@ private slots:
                 childLives, PtySession::scaled(5000));
             kill(child, SIGKILL);
         };
-        row("waits for its child", "sleep 60 & echo $$ $!; wait", 2000, false);
-        row("stops itself", "sleep 60 & echo $$ $!; kill -STOP $$", 2000, false);
+        row("waits for its child", "sleep 60 & echo $$ $!; wait", 700, false);
+        row("stops itself", "sleep 60 & echo $$ $!; kill -STOP $$", 700, false);
         row("ends, and leaves a child", "sleep 60 & echo $$ $!", 30000, true);
     }
 

@@ -20,7 +20,7 @@ Outcome runAsNobody(const QString &setpriv)
     if (setuid(nobody) != 0 || QProcess::execute(setpriv, { asRoot, "true" }) != 0)
         return NoEffect;
     const QByteArray answer = BackendTool::run(
-        setpriv, { asRoot, "sh", "-c", "echo $(id -ru); sleep 30" }, int(PtySession::scaled(2000)));
+        setpriv, { asRoot, "sh", "-c", "echo $(id -ru); sleep 30" }, int(PtySession::scaled(1000)));
     return answer == "0\n" ? GivenUp : NotGivenUp;
 }
 

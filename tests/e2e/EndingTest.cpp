@@ -49,7 +49,7 @@ private slots:
 
     void endOfInput()
     {
-        const int idleMs = int(PtySession::scaled(1000));
+        const int idleMs = int(PtySession::scaled(700));
         Session session;
         QVERIFY(session.startBy("exec \"$@\" < /dev/null", idleMs) && session.hasTitle());
         session.signal(SIGWINCH); // the wait that it interrupts still ends in time
@@ -196,7 +196,7 @@ private slots:
         row("SIGTERM", Key::down, SIGTERM, usual, { ExitStatus::Killed, SIGTERM });
         row("Ctrl-C", Key::down, SIGINT, usual, endedWell);
         row("Q", "q", none, usual, endedWell);
-        row("idle time", Key::down, none, int(PtySession::scaled(1500)), endedWell);
+        row("idle time", Key::down, none, int(PtySession::scaled(700)), endedWell);
     }
 
     void keyRestartsIdleTime()
@@ -233,7 +233,7 @@ private slots:
     void toolIsStarting()
     {
         const Rows row = [](int number) {
-            const int attempts = qMax(8, qEnvironmentVariableIntValue("DRAVIKON_TEST_ENDINGS"));
+            const int attempts = qMax(5, qEnvironmentVariableIntValue("DRAVIKON_TEST_ENDINGS"));
             qint64 startNs = 0; // how long it took this time until the tool was seen
             for (int i = 0; i <= attempts; ++i) {
                 Session session;

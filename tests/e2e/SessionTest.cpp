@@ -216,7 +216,7 @@ private slots:
             + QByteArrayList { "x", Key::escape, Key::enter, Key::enter, Key::up, Key::enter,
                   Key::redraw };
         QByteArrayList keys;
-        for (int i = 0; i < 100; ++i)
+        for (int i = 0; i < 50; ++i)
             keys += cycle;
         // The first stretch fills caches and the engine's heap, the second one finds them filled.
         QVERIFY(session.press(keys));
