@@ -1,6 +1,4 @@
 #include "check/Layout.h"
-#include "locale/CTranslationHandler.h"
-#include "preview/DeviceFromMenu.h"
 #include "tests/support/FakeDevice.h"
 
 #include <QtTest>
@@ -8,29 +6,7 @@
 class LayoutTest : public QObject {
     Q_OBJECT
 
-    const DevicePaths demo { SOURCES "/demo/web" };
-
 private slots:
-    void initTestCase() { CTranslationHandler::setInstanceRoot(demo.webRoot); }
-
-    void hasARowForEachValueOfTheDemo()
-    {
-        const auto known = loadState(SOURCES "/demo/device.json");
-        std::map<QString, DeviceGroup> groups = deviceFromMenu(demo, known.value(), {}).groups;
-        QMap<QString, int> rows;
-        int reads = 0;
-        QString words;
-        for (const QString &line : menuLayout(demo)) {
-            if (line.startsWith("  read ") && ++reads)
-                words = line.mid(10).replace("NUMBER", "0");
-            else if (line.left(4).trimmed().toInt() > 0)
-                QCOMPARE(line.left(4).trimmed().toInt(), ++rows[words]);
-        }
-        QVERIFY(reads > 25 && rows.size() == reads);
-        for (auto read = rows.cbegin(); read != rows.cend(); ++read)
-            QVERIFY2(groups[read.key()].values.size() == read.value(), qPrintable(read.key()));
-    }
-
     void printsWhatTheConsoleCanCall()
     {
         FakeDevice device;

@@ -318,13 +318,8 @@ private slots:
             return int(alarm(0));
         };
         QCOMPARE(doInOwnProcess(unlimited).status, 0);
-        for (const int number : { SIGINT, SIGTERM, SIGPIPE, SIGKILL }) {
-            const WorkEnd end = doInOwnProcess([number] {
-                std::signal(number, SIG_DFL); // QtTest has handlers
-                return std::raise(number);
-            });
-            QVERIFY(end.signal == number && !end.hasCrashed());
-        }
+        const WorkEnd killed = doInOwnProcess([] { return std::raise(SIGKILL); });
+        QVERIFY(killed.signal == SIGKILL && !killed.hasCrashed());
         const WorkEnd end = doInOwnProcess([] { return std::raise(SIGALRM); });
         QVERIFY(end.hasCrashed());
         QVERIFY(crashText("settings.js", end)

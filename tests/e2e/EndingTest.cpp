@@ -42,11 +42,6 @@ class EndingTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        qputenv("ASAN_OPTIONS", "handle_segv=0:handle_sigbus=0:handle_sigfpe=0:disable_coredump=1");
-    }
-
     void endOfInput()
     {
         const int idleMs = int(PtySession::scaled(700));
@@ -92,19 +87,6 @@ private slots:
         }));
         QVERIFY(
             session.messages().contains(end) ? session.isTerminalRestored() : session.hasTitle());
-    }
-
-    void interrupt()
-    {
-        const Rows row = [](const QByteArrayList &keys) {
-            Session session;
-            QVERIFY(session.start() && session.press(keys));
-            QCOMPARE(session.endBy(Key::interrupt), endedWell);
-            QVERIFY(session.isTerminalRestored());
-        };
-        row("lone ESC", { "\x1b" });
-        row("edit field", keysToEditField);
-        row("interface screen", keysToDiagnoseScreen);
     }
 
     void interruptWhatHangs()

@@ -52,7 +52,8 @@ class TreeTest : public QObject {
     // Builds the tree of a script and opens it.
     void build(const QByteArray &script)
     {
-        device.setScript(helpers + script);
+        if (!script.isEmpty())
+            device.setScript(helpers + script);
         warnings.clear();
         const auto formerHandler = qInstallMessageHandler(
             [](QtMsgType, const QMessageLogContext &, const QString &text) { warnings += text; });
@@ -182,6 +183,8 @@ private slots:
         row("screens are no list", "Settings = {settings: 'abc'}", "",
             "^The settings script defines no array of screens: \".*settings.js\"$");
         row("null", "Settings = null", "", "defines no array");
+        QFile::remove(device.paths().settingsScript);
+        row("no file", "", "", "^$");
     }
 
     void growth()

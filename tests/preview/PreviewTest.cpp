@@ -289,12 +289,17 @@ private slots:
     void runsTheToolThatIsNamed()
     {
         files.setTool("echo own tool");
+        const QString trace = files.paths().webRoot + "/trace";
         PtySession session;
         session.setStandardError("/dev/null");
         QVERIFY(session.start(program,
-            { "--web-root", files.paths().webRoot, "--tool", files.paths().backendTool }, 24, 80));
+            { "--web-root", files.paths().webRoot, "--tool", files.paths().backendTool, "--trace",
+                trace },
+            24, 80));
         QVERIFY(session.waitForText("DBC ver: own tool") && session.send("q"));
         QCOMPARE(session.waitForExit(), (ExitStatus { ExitStatus::Exited, 0 }));
+        QFile lines(trace);
+        QVERIFY(lines.open(QIODevice::ReadOnly) && lines.readAll().contains("own tool"));
     }
 
     void exampleToolSuitsTheConsole()

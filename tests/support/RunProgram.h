@@ -17,10 +17,6 @@ struct ProgramResult {
 inline ProgramResult runProgram(const QString &program, const QStringList &arguments)
 {
     QProcess process;
-    // A sanitizer would report a crash by itself.
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("ASAN_OPTIONS", "handle_segv=0");
-    process.setProcessEnvironment(environment);
     process.start(program, arguments);
     const bool hasEnded = process.waitForFinished(int(PtySession::scaled(30000)))
         && process.exitStatus() == QProcess::NormalExit;
