@@ -49,6 +49,7 @@ class MessageLogTest : public QObject {
     const QByteArray socketPath = folder.filePath("log").toLocal8Bit();
     int terminal = -1; ///< shows what is written to `errorTerminal`
     int errorTerminal = -1;
+    int daemon = -1;
 
     // Of many messages, the reader gets all up to where its queue is full. What comes after them
     // follows the number of the others.
@@ -68,20 +69,22 @@ class MessageLogTest : public QObject {
         QVERIFY2(rest[1].endsWith("last message"), rest[1]);
     }
 
-    // Installs the log with standard error on a terminal. The test reports on standard output.
-    int daemonBesideTerminal()
-    {
-        dup2(errorTerminal, STDERR_FILENO);
-        installMessageLog(socketPath);
-        return logDaemon(socketPath);
-    }
-
 private slots:
     void initTestCase()
     {
         QVERIFY(openpty(&terminal, &errorTerminal, nullptr, nullptr, nullptr) == 0);
         fcntl(terminal, F_SETFL, O_NONBLOCK);
     }
+
+    // Installs the log with standard error on a terminal. The test reports on standard output.
+    void init()
+    {
+        dup2(errorTerminal, STDERR_FILENO);
+        installMessageLog(socketPath);
+        daemon = logDaemon(socketPath);
+    }
+
+    void cleanup() { close(daemon); }
 
     void fullPipe()
     {
@@ -94,15 +97,12 @@ private slots:
 
     void silentDaemon()
     {
-        const int daemon = daemonBesideTerminal();
         flood(daemon);
         QVERIFY(waitingMessages(terminal).isEmpty());
-        close(daemon);
     }
 
     void restartedDaemon()
     {
-        int daemon = daemonBesideTerminal();
         qWarning("before");
         close(daemon);
         qWarning("to nobody");
@@ -112,20 +112,17 @@ private slots:
         QCOMPARE(messages.size(), 2);
         QVERIFY2(messages[0].endsWith("Messages dropped: 1"), messages[0].constData());
         QVERIFY2(messages[1].endsWith("after"), messages[1].constData());
-        close(daemon);
     }
 
     void priority()
     {
         const Rows row = [this](int type, int priority) {
-            const int daemon = daemonBesideTerminal();
             qt_message_output(QtMsgType(type), {}, "text");
             const QByteArray message = waitingMessages(daemon).value(0);
             // As in "<12>program[123]: text"; the daemon adds the time.
             const QRegularExpression form(
                 QString(R"(^<%1>[\w-]+\[\d+\]: text$)").arg(LOG_USER | priority));
             QVERIFY2(form.match(QString::fromLatin1(message)).hasMatch(), message.constData());
-            close(daemon);
         };
         row("debug", QtDebugMsg, LOG_DEBUG);
         row("info", QtInfoMsg, LOG_INFO);
@@ -135,13 +132,11 @@ private slots:
 
     void fatalMessageOnTerminal()
     {
-        const int daemon = daemonBesideTerminal();
         // The handler itself: qFatal() would end the test.
         const QtMessageHandler handler = qInstallMessageHandler(nullptr);
         handler(QtFatalMsg, {}, "why it ends");
         QVERIFY(waitingMessages(terminal).value(0).contains("why it ends"));
         QVERIFY(waitingMessages(daemon).isEmpty());
-        close(daemon);
     }
 };
 

@@ -1,6 +1,7 @@
 #include "check/CallTrace.h"
 #include "json/JsonReader.h"
 #include "tests/support/FakeDevice.h"
+#include "tests/support/FileContent.h"
 #include "tests/support/Rows.h"
 
 #include <fcntl.h>
@@ -31,9 +32,7 @@ private slots:
             const QTime before = QTime::currentTime();
             const QStringList arguments { "get_menu", "two words" };
             const QByteArray output = trace.run(tool, arguments, isSlow ? 500 : 30000).output;
-            QFile file(path);
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            QVariantMap object = objectFrom(file.readAll());
+            QVariantMap object = objectFrom(fileContent(path));
             const QTime time = object.take("time").toTime();
             QVERIFY(time.isValid() && before.msecsTo(time) < 10000);
             QCOMPARE(object.take("ms").toInt() >= 500, isSlow);

@@ -2,8 +2,8 @@
 // and DRAVIKON_TEST_SEED in the environment ask for another number of copies and for other damages.
 #include "tests/support/Chance.h"
 #include "tests/support/FakeDevice.h"
+#include "tests/support/FileContent.h"
 #include "tests/support/RunProgram.h"
-#include "tests/support/SourceFile.h"
 
 namespace {
 
@@ -32,20 +32,15 @@ class DamagedFiles : public QObject {
         for (int damages = 1 + below(4); damages > 0; --damages) {
             const int at = below(bytes.size());
             const int length = 1 + below(40);
-            switch (below(4)) {
-            case 0:
+            const int damage = below(4);
+            if (damage == 0)
                 bytes.replace(at, 1, QByteArray(1, char(below(256))));
-                break;
-            case 1:
+            else if (damage == 1)
                 bytes.remove(at, length);
-                break;
-            case 2:
+            else if (damage == 2)
                 bytes.insert(at, bytes.mid(below(bytes.size()), length));
-                break;
-            default:
+            else
                 bytes.insert(at, oneOf(hostileTexts, random));
-                break;
-            }
         }
         return bytes;
     }

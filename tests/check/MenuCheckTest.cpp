@@ -6,10 +6,10 @@
 #include "locale/CTranslationHandler.h"
 #include "preview/SimulatedDevice.h"
 #include "tests/support/FakeDevice.h"
+#include "tests/support/FileContent.h"
 #include "tests/support/Findings.h"
 #include "tests/support/Rows.h"
 #include "tests/support/RunProgram.h"
-#include "tests/support/SourceFile.h"
 
 #include <unistd.h>
 

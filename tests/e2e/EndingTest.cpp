@@ -1,5 +1,6 @@
 // How sessions end or are stopped, and what they leave behind: exit status, terminal, tool.
 #include "tests/e2e/Session.h"
+#include "tests/support/FileContent.h"
 #include "tests/support/Rows.h"
 #include "tests/support/RunProgram.h"
 
@@ -140,9 +141,11 @@ private slots:
             && tool.write("#!/bin/bash\ngrep SigBlk /proc/self/status > \"${0%/*}/mask\"\n") > 0);
         tool.close();
         QVERIFY(session.startBy("exec env --block-signal=TERM \"$@\"") && session.hasTitle());
-        QFile mask(session.device.paths().webRoot + "/mask");
-        QVERIFY(mask.open(QIODevice::ReadOnly));
-        QCOMPARE(mask.readAll().trimmed().split('\t').last().toULongLong(nullptr, 16),
+        QCOMPARE(fileContent(session.device.paths().webRoot + "/mask")
+                     .trimmed()
+                     .split('\t')
+                     .last()
+                     .toULongLong(nullptr, 16),
             1ULL << (SIGTERM - 1));
     }
 

@@ -2,8 +2,8 @@
 // each. DRAVIKON_TEST_SESSIONS, _KEYS and _SEED in the environment ask for others than the usual.
 #include "tests/e2e/Session.h"
 #include "tests/support/Chance.h"
+#include "tests/support/FileContent.h"
 #include "tests/support/ScreenNotation.h"
-#include "tests/support/SourceFile.h"
 
 #include <QDir>
 

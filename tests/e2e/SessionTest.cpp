@@ -2,9 +2,9 @@
 #include "app/Session.h"
 #include "backend/BackendTool.h"
 #include "tests/e2e/Session.h"
+#include "tests/support/FileContent.h"
 #include "tests/support/Rows.h"
 #include "tests/support/RunProgram.h"
-#include "tests/support/SourceFile.h"
 
 #include <Version.h>
 
@@ -189,10 +189,8 @@ private slots:
         Session session;
         QVERIFY(session.start());
         const auto residentKib = [&session] {
-            QFile status(QString("/proc/%1/statm").arg(session.pid()));
-            return status.open(QIODevice::ReadOnly)
-                ? status.readAll().split(' ').value(1).toInt() * 4
-                : 0;
+            return fileContent(QString("/proc/%1/statm").arg(session.pid())).split(' ')[1].toInt()
+                * 4;
         };
         // Open the group, drop an edit and confirm one, close it.
         const QByteArrayList cycle = keysToEditField

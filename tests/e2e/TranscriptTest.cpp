@@ -1,6 +1,7 @@
 // Plays transcripts of sessions: transcript-test [--rewrite] FILE... With --rewrite it writes
 // what it sees into the files, for a person to read in the difference to before.
 #include "tests/e2e/TranscriptPlayer.h"
+#include "tests/support/FileContent.h"
 
 #include <QRegularExpression>
 
@@ -51,11 +52,7 @@ std::optional<QStringList> play(
 // Plays a transcript, whose expectations become what was seen if that is wanted.
 bool check(const QString &path, bool rewrites)
 {
-    QFile file(path);
-    QStringList lines;
-    if (file.open(QIODevice::ReadOnly))
-        lines = QString::fromUtf8(file.readAll()).split('\n');
-    file.close();
+    const QStringList lines = QString(fileContent(path)).split('\n');
     TranscriptPlayer player;
     QStringList written;
     for (int i = 0; i < lines.size(); ++i) {
@@ -77,6 +74,7 @@ bool check(const QString &path, bool rewrites)
     if (!player.isStarted())
         print(path + ": no transcript, nothing was started");
     const QByteArray text = written.join('\n').toUtf8();
+    QFile file(path);
     return player.isStarted()
         && (!rewrites || (file.open(QIODevice::WriteOnly) && file.write(text) == text.size()));
 }
