@@ -12,7 +12,10 @@ private slots:
         FakeDevice device;
         device.setScreens(
             R"([{ css: 'r', 'ajax-read': 'never', screens: [{ css: 'a' }, { css: 'a' },
-            { css: 'h', remote: 0 }, { i18n: 'x', inputType: 'button', 'ajax-read': 'pressed' }] },
+            { css: 'tanks' }, { css: 'h', remote: 0 }, { i18n: 'x', inputType: 'button', 'ajax-read': 'pressed' }] },
+            { css: 'tanks', type: 'compBtnA', remote: 1, screens: [] },
+            { css: 'tanksModifyDo', 'ajax-read': 'get', 'ajax-write': 'set', screens: [
+              { i18n: 'x', inputType: 'dropdown', values: ['y'], dbValues: [Array(40).join('z')] }] },
             { css: 'h', type: 'btn', 'ajax-read': 'hidden', screens: [{ i18n: 'x' }] },
             { css: 'a', 'ajax-read': '\x1b "b  c"', 'ajax-write': 'locked', screens: [
               { i18n: Array(5).join('key_ words '), inputType: 'edit', validation: 'N5.2',
@@ -26,6 +29,12 @@ private slots:
      words key_ words              key_ words key_ words
    2 h                             h                      reference, hidden
    3 x                             x                      selectlabel        "1" = y
+
+tanks > compartment (tanksModifyDo)
+  read    get NUMBER
+  write   set NUMBER VALUES
+   1 x                             x                      dropdown           "zzzzzzzzzzzzzzzzzzzzzz
+                                                                             zzzzzzzzzzzzzzzzz" = y
 
 x
   read    pressed)");

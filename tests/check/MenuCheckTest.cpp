@@ -301,12 +301,19 @@ private slots:
         }
     }
 
-    void printsTextsBeyondAscii()
+    void printsTheMenu()
     {
         device.setTranslations("{\"field\": \"\xc3\x96l\"}");
-        device.setScreens("[{css: 'start', screens: [{css: 'page', i18n: '\xc3\x84'}]},"
-                          " {css: 'page', 'ajax-read': 'read', screens: [{i18n: 'field'}]}]");
-        QCOMPARE(check(root + "--tree").output, QString("->  Ä\n +   -  Öl\n"));
+        device.setScreens("[{screens: [{css: 'page', i18n: '\xc3\x84'}, {css: 'list'}]},"
+                          " {css: 'page', 'ajax-read': 'read', screens: [{i18n: 'field'}]},"
+                          " {css: 'list', type: 'meterBtn', remote: 1, screens: []},"
+                          " {css: 'listModifyDo', i18n: 'meter'}]");
+        QCOMPARE(
+            check(root + "--tree").output, QString("->  Ä\n +   -  Öl\n->  list\n +   -  meter 1\n"));
+        device.setScript("");
+        const ProgramResult made = check(root + "--tree");
+        QCOMPARE(made.status, 1);
+        QVERIFY2(made.output.startsWith("error: "), qPrintable(made.output));
     }
 
     void limitsTheTimeOfScripts()
