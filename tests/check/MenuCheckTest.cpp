@@ -133,6 +133,7 @@ private slots:
         constexpr int any = -1;
         compareFindings(deviceFaults(BackendTool::patienceMs, any),
             "warning slow-call, warning slow-call, warning slow-call", "");
+        QCOMPARE(ToolCalls({}).slowMs, 1000); // as the manual page says
         device.setTool("exec sleep 60");
         compareFindings(deviceFaults(100),
             "error hanging-call, error hanging-call, error hanging-call", "within 0.1 s");
