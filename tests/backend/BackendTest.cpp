@@ -6,8 +6,6 @@
 
 #include <csignal>
 
-#include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 class BackendTest : public QObject {

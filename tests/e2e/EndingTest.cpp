@@ -5,9 +5,6 @@
 #include "tests/support/RunProgram.h"
 
 #include <QDir>
-#include <QElapsedTimer>
-
-#include <csignal>
 
 namespace {
 
