@@ -133,7 +133,9 @@ private slots:
         constexpr int any = -1;
         compareFindings(deviceFaults(BackendTool::patienceMs, any),
             "warning slow-call, warning slow-call, warning slow-call", "");
-        QCOMPARE(ToolCalls({}).slowMs, 1000); // as the manual page says
+        const ToolCalls usual({}); // with the times of the manual page
+        QCOMPARE(usual.slowMs, 1000);
+        QCOMPARE(usual.patienceMs, 30000);
         device.setTool("exec sleep 60");
         compareFindings(deviceFaults(100),
             "error hanging-call, error hanging-call, error hanging-call", "within 0.1 s");
@@ -273,6 +275,7 @@ private slots:
         row("no option", "bad", 2, "", "dravikon-menu-check: unexpected bad\n");
         row("tool alone", "--tool=x", 2, "", "dravikon-menu-check: --tool is for --device");
         row("empty path", "--web-root=", 2, "", "dravikon-menu-check: --web-root needs a value\n");
+        row("trace alone", "--trace=x", 2, "", "dravikon-menu-check: --trace is for --device");
         row("no definition", "--web-root=/nowhere", 2, "",
             "dravikon-menu-check: cannot load /nowhere/scripts/settings.js: No such file");
     }
@@ -309,8 +312,8 @@ private slots:
                           " {css: 'page', 'ajax-read': 'read', screens: [{i18n: 'field'}]},"
                           " {css: 'list', type: 'meterBtn', remote: 1, screens: []},"
                           " {css: 'listModifyDo', i18n: 'meter'}]");
-        QCOMPARE(
-            check(root + "--tree").output, QString("->  Ä\n +   -  Öl\n->  list\n +   -  meter 1\n"));
+        QCOMPARE(check(root + "--tree").output,
+            QString("->  Ä\n +   -  Öl\n->  list\n +   -  meter 1\n"));
         device.setScript("");
         const ProgramResult made = check(root + "--tree");
         QCOMPARE(made.status, 1);
@@ -376,7 +379,9 @@ private slots:
         device.setScreens(oneField);
         // A version is no JSON.
         device.setTool("[ $1 = --version ] && echo 1.0 || echo '[\"i18n_on\"]'");
-        const ProgramResult complete = check(root + ask + "--tree");
+        const QString trace = device.paths().webRoot + "/trace";
+        const ProgramResult complete = check(root + ask + "--tree --trace " + trace);
+        QVERIFY(fileContent(trace).contains("i18n_on"));
         QCOMPARE(complete.status, 0);
         QCOMPARE(complete.output, QString("->  Page\n +   -  Field%1On\n").arg(QString(), 41));
         QCOMPARE(complete.messages, QString());
@@ -386,6 +391,13 @@ private slots:
         QCOMPARE(incomplete.status, 1);
         QCOMPARE(incomplete.output, QString("->  Page\n +   -  Field\n"));
         QVERIFY(incomplete.messages.startsWith("<read> printed nothing"));
+    }
+
+    void countsProblemsOfTheDefinitionBesideAGoodDevice()
+    {
+        device.setScreens("[{css: 'start', screens: [{css: 'gone'}]}]");
+        device.setTool("[ $1 = --version ] && echo 1.0 || echo '[\"i18n_wm_true\"]'");
+        QCOMPARE(check(root + ask).status, 1);
     }
 
     void findsNothingOnDemo()
