@@ -1,5 +1,7 @@
 #include "check/OwnProcess.h"
 
+#include "platform/SignalBlocker.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -59,6 +61,8 @@ WorkEnd doInOwnProcess(const std::function<int()> &work)
         std::signal(SIGTERM, SIG_DFL);
         prctl(PR_SET_PDEATHSIG, SIGTERM);
         std::signal(SIGALRM, SIG_DFL);
+        const sigset_t ends = signalSet({ SIGTERM, SIGALRM });
+        pthread_sigmask(SIG_UNBLOCK, &ends, nullptr);
         alarm(patienceSeconds);
         _exit(getppid() == parent ? work() : 0);
     }

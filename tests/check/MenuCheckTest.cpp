@@ -4,6 +4,7 @@
 #include "check/OwnProcess.h"
 #include "check/ToolFault.h"
 #include "locale/CTranslationHandler.h"
+#include "platform/SignalBlocker.h"
 #include "preview/SimulatedDevice.h"
 #include "tests/support/FakeDevice.h"
 #include "tests/support/FileContent.h"
@@ -322,6 +323,7 @@ private slots:
 
     void limitsTheTimeOfScripts()
     {
+        const SignalBlocker blocker(signalSet({ SIGTERM, SIGALRM })); // as a caller may do
         // How many seconds the work has at its start.
         QCOMPARE(doInOwnProcess([] { return int(alarm(0)); }).status, 30);
         const auto unlimited = [] {
