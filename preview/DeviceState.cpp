@@ -114,7 +114,8 @@ StateLock::~StateLock()
 
 QVariant &sealValue(DeviceState &state)
 {
-    const auto group = state.groups.find(state.seal.value(0));
+    const auto group =
+        state.seal.size() < 2 ? state.groups.end() : state.groups.find(state.seal[0]);
     if (group == state.groups.end())
         return state.sealClosed;
     const int place = group->second.keys.indexOf(state.seal.value(1));

@@ -189,6 +189,9 @@ private slots:
     {
         define("define([to('seal')], [page('seal', [field('boolean', { i18n: 'closed' })])])");
         const auto known = stateFromJson(R"({"seal": ["get seal", "closed"]})");
+        // An empty path names no entry, not even one without a name.
+        auto none = stateFromJson(R"({"seal": [], "groups": {"": {"keys": [""], "values": [5]}}})");
+        QCOMPARE(sealValue(*none), QVariant(true));
         DeviceState state = deviceFromMenu(files.paths(), *known, { {}, {}, true });
         QCOMPARE(sealValue(state), QVariant(false));
         QVERIFY(acceptWrite(state, "set seal", { true }));
