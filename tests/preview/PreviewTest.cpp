@@ -56,12 +56,13 @@ class PreviewTest : public QObject {
         return deviceJson(state.groups.at(words).values);
     }
 
-    // Makes a device with three compartments and two meters. Its values fit the definition, and it
+    // Makes a device with the usual three compartments and two meters. Its values fit, and it
     // keeps what the console writes on each of the screens.
     void playDevice(int screens)
     {
         const QTemporaryDir directory;
-        QCOMPARE(makeSimulatedDevice(directory.path(), program, files.paths(), {}, { 3, 2, true }),
+        QCOMPARE(
+            makeSimulatedDevice(directory.path(), program, files.paths(), {}, { {}, {}, true }),
             QString());
         DevicePaths paths = files.paths();
         paths.backendTool = simulatedTool(directory.path());
