@@ -123,6 +123,21 @@ private slots:
         QCOMPARE(read(state, "get same"), QByteArray(R"([false,"x"])"));
     }
 
+    void inventsWhatIsNotKnown()
+    {
+        define("define([to('p')], [page('p', [field('slider', { min: -5, max: 5, step: 1 }),"
+               " field('boolean'), field('label')])])");
+        DeviceState state = deviceFromMenu(files.paths(), {}, {});
+        QCOMPARE(read(state, "get p"), QByteArray(R"([-5,false,"value 3"])"));
+        QCOMPARE(sealValue(state), QVariant(true));
+        // By hand: values in the order of the entries, and words that nothing writes with.
+        const auto known = stateFromJson(
+            R"({"groups": {"get p": {"values": [1, true], "writes": {"set q": [3]}}}})");
+        state = deviceFromMenu(files.paths(), *known, {});
+        QCOMPARE(read(state, "get p"), QByteArray(R"([1,true,"value 3"])"));
+        QVERIFY(!acceptWrite(state, "set q", { 1, true, "x" }));
+    }
+
     void refusesWhatDoesNotFit()
     {
         const Rows row = [this](const QByteArray &written, const QByteArray &stored) {
