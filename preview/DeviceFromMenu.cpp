@@ -33,10 +33,11 @@ Sample listSample(const TreeViewItemHandler &handler, const TreeViewItem &item)
     for (int position = 0, count = handler.valueCount(item); position < count; ++position) {
         const QVariant option =
             isPosition ? qlonglong(position) : stored(handler.databaseValueAt(item, position));
-        const int textPosition = isPosition ? position : handler.indexOfDatabaseValue(item, option);
         options += option;
-        if (!shown.isValid() && !textOf(option).isEmpty() && textPosition >= 0
-            && !textOf(handler.valueAt(item, textPosition)).isEmpty())
+        if (shown.isValid() || textOf(option).isEmpty())
+            continue;
+        const int textPosition = isPosition ? position : handler.indexOfDatabaseValue(item, option);
+        if (textPosition >= 0 && !textOf(handler.valueAt(item, textPosition)).isEmpty())
             shown = option;
     }
     if (!shown.isValid())
