@@ -2,9 +2,9 @@
 # Plays random sessions, also on damaged states of the simulated device, and runs the fuzz target,
 # all with ASan and UBSan. Ends sessions at the moment when they start a tool, hundreds of times for
 # each way to end, and checks damaged definitions.
-# Usage: tests/soak.sh [SESSIONS [KEYS [RUNS [SEED [DAMAGES]]]]]
+# Usage: ./soak.sh [SESSIONS [KEYS [RUNS [SEED [DAMAGES]]]]]
 set -euo pipefail
-cd "$(dirname "$0")/.."
+cd "$(dirname "$0")"
 sessions=${1:-200} keys=${2:-1000} runs=${3:-10000000} seed=${4:-$RANDOM}
 damages=${5:-10000}
 
