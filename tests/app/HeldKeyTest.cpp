@@ -1,9 +1,9 @@
 // Keys that come faster than a line of 9600 baud shows what they do, in simulated time.
 #include "app/TerminalGui.h"
 #include "locale/CTranslationHandler.h"
+#include "terminal/ScreenNotation.h"
 #include "tests/support/FakeDevice.h"
 #include "tests/support/Rows.h"
-#include "tests/support/ScreenNotation.h"
 #include "tests/support/SimulatedLine.h"
 
 #include <cstdio>

@@ -1,9 +1,9 @@
 // Plays random keys, sizes and faults of the tool against the console and checks its screen after
 // each. DRAVIKON_TEST_SESSIONS, _KEYS and _SEED in the environment ask for others than the usual.
+#include "terminal/ScreenNotation.h"
 #include "tests/e2e/Session.h"
 #include "tests/support/Chance.h"
 #include "tests/support/FileContent.h"
-#include "tests/support/ScreenNotation.h"
 
 #include <QDir>
 

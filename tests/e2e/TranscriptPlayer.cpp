@@ -88,7 +88,7 @@ QStringList TranscriptPlayer::outcome()
 {
     const TerminalEmulator &terminal = session.terminal();
     const std::set<int> &rows = terminal.writtenRows();
-    QStringList lines = notationOfRows(terminal, rows);
+    QStringList lines = withoutVersion(notationOfRows(terminal, rows));
     if (terminal.cursorVisible() && rows.count(terminal.cursor().y()) == 0)
         lines +=
             QString("cursor %1,%2").arg(terminal.cursor().y() + 1).arg(terminal.cursor().x() + 1);

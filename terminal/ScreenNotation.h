@@ -1,4 +1,5 @@
-// Rows of a terminal in the notation of transcripts.
+// Rows of a terminal as text, with their numbers, colours and the cursor: "     4 :Limits  <-
+// magenta".
 #pragma once
 
 #include "terminal/TerminalEmulator.h"

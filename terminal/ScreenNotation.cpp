@@ -1,34 +1,31 @@
-#include "tests/support/ScreenNotation.h"
-
-#include <Version.h>
+#include "terminal/ScreenNotation.h"
 
 // Colours, with their columns unless the whole row has one, and the text cursor.
 static QString remarksOn(const TerminalEmulator &terminal, int row, const QString &colours)
 {
-    static const QStringList names { "red", "green", "blue", "magenta" };
+    static const QStringList names { QStringLiteral("red"), QStringLiteral("green"),
+        QStringLiteral("blue"), QStringLiteral("magenta") };
     QStringList remarks;
     for (int first = 0, next = 0; first < colours.size(); first = next) {
-        const QString name =
-            names.value(QString("rgbm").indexOf(colours.at(first)), "other colour");
+        const QString name = names.value(
+            QStringLiteral("rgbm").indexOf(colours.at(first)), QStringLiteral("other colour"));
         while (next < colours.size() && colours.at(next) == colours.at(first))
             ++next;
-        if (colours.at(first) != '.')
+        if (colours.at(first) != QLatin1Char('.'))
             remarks += next - first == colours.size()
                 ? name
-                : QString("%1 %2-%3").arg(name).arg(first + 1).arg(next);
+                : QStringLiteral("%1 %2-%3").arg(name).arg(first + 1).arg(next);
     }
     if (terminal.cursorVisible() && terminal.cursor().y() == row)
-        remarks += QString("cursor %1").arg(terminal.cursor().x() + 1);
-    return QLatin1String(remarks.isEmpty() ? "" : "  <- ") + remarks.join(", ");
+        remarks += QStringLiteral("cursor %1").arg(terminal.cursor().x() + 1);
+    return QLatin1String(remarks.isEmpty() ? "" : "  <- ") + remarks.join(QStringLiteral(", "));
 }
 
 // A row without its number.
 static QString notationOfRow(const TerminalEmulator &terminal, int row)
 {
-    // The expectations outlive a version.
-    QString text = terminal.row(row);
-    text.replace("ver: " + consoleVersion, "ver: VERSION");
-    return " :" + text + remarksOn(terminal, row, terminal.backgrounds(row));
+    return QStringLiteral(" :") + terminal.row(row)
+        + remarksOn(terminal, row, terminal.backgrounds(row));
 }
 
 QStringList notationOfRows(const TerminalEmulator &terminal, const std::set<int> &rows)
@@ -42,7 +39,7 @@ QStringList notationOfRows(const TerminalEmulator &terminal, const std::set<int>
             ++last;
         QString number = QString::number(first + 1);
         if (last > first)
-            number += '-' + QString::number(last + 1);
+            number += QLatin1Char('-') + QString::number(last + 1);
         lines += number.rightJustified(6) + notation;
     }
     return lines;
