@@ -125,7 +125,6 @@ private slots:
             QVERIFY2(form.match(QString::fromLatin1(message)).hasMatch(), message.constData());
         };
         row("debug", QtDebugMsg, LOG_DEBUG);
-        row("info", QtInfoMsg, LOG_INFO);
         row("warning", QtWarningMsg, LOG_WARNING);
         row("critical", QtCriticalMsg, LOG_ERR);
     }

@@ -77,16 +77,6 @@ private slots:
             calls += objectFrom(line).value("arguments").toStringList();
         QCOMPARE(calls.join(' '), "50000 50001 20");
     }
-
-    void reportsWhatCannotBeOpened()
-    {
-        CallTrace trace;
-        QCOMPARE(trace.open(directory.path()),
-            QString("cannot write %1: Is a directory").arg(directory.path()));
-        QVERIFY(!trace.isOpen());
-        device.setTool("echo [1]");
-        QCOMPARE(trace.run(device.paths().backendTool, {}).output, QByteArray("[1]\n"));
-    }
 };
 
 QTEST_GUILESS_MAIN(CallTraceTest)

@@ -68,7 +68,6 @@ private slots:
                 QString("Dravikon was ended by signal %1.\n").arg(number)));
         };
         row("the first", SIGHUP);
-        row("SIGTERM", SIGTERM);
         row("fault", SIGSEGV);
         row("last real-time signal", SIGRTMAX);
     }
@@ -78,13 +77,10 @@ private slots:
         Session session;
         session.device.setScript("new RegExp(Array(1e5).join('(') + Array(1e5).join(')'));");
         QVERIFY(session.run());
-        const QString end = "ended by signal 11.\n";
-        const QString warning = "nested too deeply"; // not on every processor
-        QVERIFY(session.waitFor([&] {
-            return session.messages().contains(end) || session.messages().contains(warning);
-        }));
-        QVERIFY(
-            session.messages().contains(end) ? session.isTerminalRestored() : session.hasTitle());
+        const QRegularExpression outcome("ended by signal 11|nested too deeply");
+        QVERIFY(session.waitFor([&] { return session.messages().contains(outcome); }));
+        const bool hasEnded = session.messages().contains("ended"); // not on every processor
+        QVERIFY(hasEnded ? session.isTerminalRestored() : session.hasTitle());
     }
 
     void interruptWhatHangs()
@@ -138,12 +134,8 @@ private slots:
             && tool.write("#!/bin/bash\ngrep SigBlk /proc/self/status > \"${0%/*}/mask\"\n") > 0);
         tool.close();
         QVERIFY(session.startBy("exec env --block-signal=TERM \"$@\"") && session.hasTitle());
-        QCOMPARE(fileContent(session.device.paths().webRoot + "/mask")
-                     .trimmed()
-                     .split('\t')
-                     .last()
-                     .toULongLong(nullptr, 16),
-            1ULL << (SIGTERM - 1));
+        QCOMPARE(fileContent(session.device.paths().webRoot + "/mask").trimmed(),
+            "SigBlk:\t" + QByteArray::number(1 << (SIGTERM - 1), 16).rightJustified(16, '0'));
     }
 
     void ignoredSignals()

@@ -4,9 +4,9 @@
 #include "terminal/Keys.h"
 #include "terminal/PtySession.h"
 #include "tests/support/FakeDevice.h"
+#include "tests/support/FileContent.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 
 const ExitStatus endedWell = { ExitStatus::Exited, 0 };
 
@@ -99,8 +99,7 @@ public:
 
     QString messages() const
     {
-        QFile file(messagePath());
-        return file.open(QIODevice::ReadOnly) ? QString::fromLocal8Bit(file.readAll()) : QString();
+        return QFile::exists(messagePath()) ? fileContent(messagePath()) : QByteArray();
     }
 
     bool isTerminalRestored() const

@@ -44,8 +44,7 @@ std::optional<QStringList> play(
     print(place + (error.isEmpty() ? "something else came of it" : error));
     print("expected:", entry.further);
     print("seen:", QStringList(entry.word + ' ' + entry.text) + seen);
-    print("the whole screen:", player.screen());
-    print("The notation is described in tests/e2e/README.md.");
+    print("the whole screen (its notation is in tests/e2e/README.md):", player.screen());
     return std::nullopt;
 }
 

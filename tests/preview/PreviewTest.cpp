@@ -253,11 +253,9 @@ private slots:
             QCOMPARE(result.messages, "dravikon-preview: " + message + '\n');
         };
         row("unknown option", "--x", "Unknown option 'x'.");
-        row("word", "x", "unexpected x");
         row("too many compartments", "--compartments 1000",
             "--compartments takes a number from 0 to 999");
         row("no number", "--meters x", "--meters takes a number from 0 to 999");
-        row("negative number", "--meters=-1", "--meters takes a number from 0 to 999");
         row("no idle time", "--idle 0", "--idle takes a number from 1 to 2147483647");
         row("other seal", "--seal broken", "--seal is open or closed");
         row("empty path", "--web-root ''", "--web-root needs a value");
