@@ -109,7 +109,6 @@ private slots:
         row("own entries", "meters('m', [field('F')]), to('mModifyDo'), meterCount('[1]')", "m(F)");
         row("nothing to repeat", "meters('m', {}), meterCount('[1]')", "m");
         row("text", "meters('m', {}), to('mModifyDo'), meterCount('[\"1\"]')", "m(mModifyDo0)");
-        row("negative", "meters('m', {}), to('mModifyDo'), meterCount('[-1]')", "m");
         row("attributes that throw", "screen('r', [{get values() { throw 1 }, i18n: 'F'}])",
             "r(F)");
     }
