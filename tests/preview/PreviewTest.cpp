@@ -255,7 +255,6 @@ private slots:
         row("unknown option", "--x", "Unknown option 'x'.");
         row("too many compartments", "--compartments 1000",
             "--compartments takes a number from 0 to 999");
-        row("no number", "--meters x", "--meters takes a number from 0 to 999");
         row("no idle time", "--idle 0", "--idle takes a number from 1 to 2147483647");
         row("other seal", "--seal broken", "--seal is open or closed");
         row("empty path", "--web-root ''", "--web-root needs a value");
@@ -399,12 +398,6 @@ private slots:
         row("good", "Settings = {settings: [{css: '1', screens: []}], setupStructureVersion: 1}", 0,
             "");
         row("no screens", "var = 1", 0, " [script]\n");
-        row("crash in the report",
-            QByteArray("Settings = { settings: [{ get checkIgnore() { ") + crash + "; } }] };", 0,
-            "dravikon-preview: the script engine crashes (signal ");
-        row("crash without a session", crash, 1,
-            "dravikon-preview: the script engine crashes (signal ");
-        QCOMPARE(preview("2> /dev/full").status, 1);
         files.setScript("");
         const QString table = files.paths().webRoot + "/locales/en/translation.json";
         for (const QString &path : { table, files.paths().settingsScript }) {
@@ -414,6 +407,14 @@ private slots:
         }
         QVERIFY(preview("").messages.contains("dravikon-preview: cannot load "));
         QCOMPARE(preview("2> /dev/full").status, 2);
+        if (EMULATED)
+            QSKIP("this processor's engine does not crash");
+        row("crash in the report",
+            QByteArray("Settings = { settings: [{ get checkIgnore() { ") + crash + "; } }] };", 0,
+            "dravikon-preview: the script engine crashes (signal ");
+        row("crash without a session", crash, 1,
+            "dravikon-preview: the script engine crashes (signal ");
+        QCOMPARE(preview("2> /dev/full").status, 1);
     }
 };
 
