@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QString json = ScriptHelper::variantListToJson(values);
     expect(!json.isNull());
     for (const QChar character : json)
-        expect(character >= ' ' && character <= '~');
+        expect(character >= QLatin1Char(' ') && character <= QLatin1Char('~'));
     expect(ScriptHelper::byteArray2VariantList(json.toLatin1()) == values);
     return 0;
 }
