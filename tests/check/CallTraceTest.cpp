@@ -1,7 +1,7 @@
 #include "check/CallTrace.h"
 #include "json/JsonReader.h"
 #include "tests/support/FakeDevice.h"
-#include "tests/support/FileContent.h"
+#include "tests/support/Files.h"
 #include "tests/support/Rows.h"
 
 #include <fcntl.h>
@@ -32,7 +32,7 @@ private slots:
             const QTime before = QTime::currentTime();
             const QStringList arguments { "get_menu", "two words" };
             const QByteArray output = trace.run(tool, arguments, isSlow ? 500 : 30000).output;
-            QVariantMap object = objectFrom(fileContent(path));
+            QVariantMap object = objectFrom(readFile(path));
             const QTime time = QTime::fromString(object.take("time").toString(), "HH:mm:ss.zzz");
             QVERIFY(time.isValid() && before.msecsTo(time) < 10000);
             QCOMPARE(object.take("ms").toInt() >= 500, isSlow);

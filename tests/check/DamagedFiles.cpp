@@ -2,7 +2,7 @@
 // and DRAVIKON_TEST_SEED in the environment ask for another number of copies and for other damages.
 #include "tests/support/Chance.h"
 #include "tests/support/FakeDevice.h"
-#include "tests/support/FileContent.h"
+#include "tests/support/Files.h"
 #include "tests/support/RunProgram.h"
 
 namespace {

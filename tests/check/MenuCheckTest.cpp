@@ -7,7 +7,7 @@
 #include "platform/SignalBlocker.h"
 #include "preview/SimulatedDevice.h"
 #include "tests/support/FakeDevice.h"
-#include "tests/support/FileContent.h"
+#include "tests/support/Files.h"
 #include "tests/support/Findings.h"
 #include "tests/support/Rows.h"
 #include "tests/support/RunProgram.h"
@@ -379,7 +379,7 @@ private slots:
         device.setTool("[ $1 = --version ] && echo 1.0 || echo '[\"i18n_on\"]'");
         const QString trace = device.paths().webRoot + "/trace";
         const ProgramResult complete = check(root + ask + "--tree --trace " + trace);
-        QVERIFY(fileContent(trace).contains("i18n_on"));
+        QVERIFY(readFile(trace).contains("i18n_on"));
         QCOMPARE(complete.status, 0);
         QCOMPARE(complete.output, QString("->  Page\n +   -  Field%1On\n").arg(QString(), 41));
         QCOMPARE(complete.messages, QString());

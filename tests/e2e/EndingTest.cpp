@@ -1,6 +1,6 @@
 // How sessions end or are stopped, and what they leave behind: exit status, terminal, tool.
 #include "tests/e2e/Session.h"
-#include "tests/support/FileContent.h"
+#include "tests/support/Files.h"
 #include "tests/support/Rows.h"
 #include "tests/support/RunProgram.h"
 
@@ -134,7 +134,7 @@ private slots:
             && tool.write("#!/bin/bash\ngrep SigBlk /proc/self/status > \"${0%/*}/mask\"\n") > 0);
         tool.close();
         QVERIFY(session.startBy("exec env --block-signal=TERM \"$@\"") && session.hasTitle());
-        QCOMPARE(fileContent(session.device.paths().webRoot + "/mask").trimmed(),
+        QCOMPARE(readFile(session.device.paths().webRoot + "/mask").trimmed(),
             "SigBlk:\t" + QByteArray::number(1 << (SIGTERM - 1), 16).rightJustified(16, '0'));
     }
 

@@ -3,7 +3,7 @@
 #include "terminal/ScreenNotation.h"
 #include "tests/e2e/Session.h"
 #include "tests/support/Chance.h"
-#include "tests/support/FileContent.h"
+#include "tests/support/Files.h"
 
 #include <QDir>
 

@@ -4,7 +4,7 @@
 #include "terminal/Keys.h"
 #include "terminal/PtySession.h"
 #include "tests/support/FakeDevice.h"
-#include "tests/support/FileContent.h"
+#include "tests/support/Files.h"
 
 #include <QElapsedTimer>
 
@@ -97,10 +97,7 @@ public:
         return waitFor([&] { return (calls += device.takeCalls()).contains(call); });
     }
 
-    QString messages() const
-    {
-        return QFile::exists(messagePath()) ? fileContent(messagePath()) : QByteArray();
-    }
+    QString messages() const { return fileContent(messagePath()).value_or(QByteArray()); }
 
     bool isTerminalRestored() const
     {

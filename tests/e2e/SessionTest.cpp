@@ -2,7 +2,7 @@
 #include "app/Session.h"
 #include "backend/BackendTool.h"
 #include "tests/e2e/Session.h"
-#include "tests/support/FileContent.h"
+#include "tests/support/Files.h"
 #include "tests/support/Rows.h"
 #include "tests/support/RunProgram.h"
 
@@ -189,8 +189,7 @@ private slots:
         Session session;
         QVERIFY(session.start());
         const auto residentKib = [&session] {
-            return fileContent(QString("/proc/%1/statm").arg(session.pid())).split(' ')[1].toInt()
-                * 4;
+            return readFile(QString("/proc/%1/statm").arg(session.pid())).split(' ')[1].toInt() * 4;
         };
         // Open the group, drop an edit and confirm one, close it.
         const QByteArrayList cycle = keysToEditField

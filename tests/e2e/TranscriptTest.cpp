@@ -1,7 +1,7 @@
 // Plays transcripts of sessions: transcript-test [--rewrite] FILE... With --rewrite it writes
 // what it sees into the files, for a person to read in the difference to before.
 #include "tests/e2e/TranscriptPlayer.h"
-#include "tests/support/FileContent.h"
+#include "tests/support/Files.h"
 
 #include <QRegularExpression>
 
@@ -51,7 +51,7 @@ std::optional<QStringList> play(
 // Plays a transcript, whose expectations become what was seen if that is wanted.
 bool check(const QString &path, bool rewrites)
 {
-    const QStringList lines = QString(fileContent(path)).split('\n');
+    const QStringList lines = QString(readFile(path)).split('\n');
     TranscriptPlayer player;
     QStringList written;
     for (int i = 0; i < lines.size(); ++i) {

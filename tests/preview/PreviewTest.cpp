@@ -5,7 +5,7 @@
 #include "preview/MenuValues.h"
 #include "preview/SimulatedDevice.h"
 #include "tests/support/FakeDevice.h"
-#include "tests/support/FileContent.h"
+#include "tests/support/Files.h"
 #include "tests/support/Rows.h"
 #include "tests/support/RunProgram.h"
 
@@ -314,7 +314,7 @@ private slots:
             24, 80));
         QVERIFY(session.waitForText("DBC ver: own tool") && session.send("q"));
         QCOMPARE(session.waitForExit(), (ExitStatus { ExitStatus::Exited, 0 }));
-        QVERIFY(fileContent(trace).contains("own tool"));
+        QVERIFY(readFile(trace).contains("own tool"));
     }
 
     void exampleToolSuitsTheConsole()
