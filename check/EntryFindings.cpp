@@ -73,8 +73,7 @@ Findings listScreenFindings(const LoadedMenu &menu, const TreeViewItem &item)
         return {};
     return { error("list-screen",
         "it shows its own entries, and never the screen \"%1\" for each compartment or meter; "
-        "empty "
-        "its \"screens\"",
+        "empty its \"screens\"",
         repeated) };
 }
 
