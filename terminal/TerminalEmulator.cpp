@@ -50,6 +50,9 @@ void TerminalEmulator::feed(const QByteArray &bytes)
 
 void TerminalEmulator::resize(int rows, int columns)
 {
+    // Some versions of libvterm drop the backgrounds of blanks, also where the size stays.
+    if (size == QSize(columns, rows))
+        return;
     const std::set<int> before = written;
     vterm_set_size(vterm.get(), rows, columns);
     written = before;
