@@ -8,7 +8,8 @@ sysroot=$2
 
 depends=$(dpkg-deb --field "$package" Depends)
 echo "Depends: $depends"
-[[ $depends == *libc6* && $depends == *libqt5core5a* && $depends == *libqt5script5* ]]
+# Debian 13 renamed libqt5core5a for its 64-bit times.
+[[ $depends == *libc6* && $depends == *libqt5core5* && $depends == *libqt5script5* ]]
 
 case $(dpkg-deb --field "$package" Architecture) in
 armhf) emulator=qemu-arm-static ;;
