@@ -15,7 +15,7 @@ private slots:
             { css: 'tanks' }, { css: 'h', remote: 0 }, { i18n: 'x', inputType: 'button', 'ajax-read': 'pressed' }] },
             { css: 'tanks', type: 'compBtnA', remote: 1, screens: [] },
             { css: 'tanksModifyDo', 'ajax-read': 'get', 'ajax-write': 'set', screens: [
-              { i18n: 'x', inputType: 'dropdown', values: ['y'], dbValues: [Array(40).join('z')] }] },
+              { i18n: 'x ' + Array(23).join('w'), inputType: 'dropdown', values: ['y'], dbValues: [Array(40).join('z')] }] },
             { css: 'h', type: 'btn', 'ajax-read': 'hidden', screens: [{ i18n: 'x' }] },
             { css: 'a', 'ajax-read': '\x1b "b  c"', 'ajax-write': 'locked', screens: [
               { i18n: Array(5).join('key_ words '), inputType: 'edit', validation: 'N5.2',
@@ -33,8 +33,8 @@ private slots:
 tanks > compartment (tanksModifyDo)
   read    get NUMBER
   write   set NUMBER VALUES
-   1 x                             x                      dropdown           "zzzzzzzzzzzzzzzzzzzzzz
-                                                                             zzzzzzzzzzzzzzzzz" = y
+   1 x wwwwwwwwwwwwwwwwwwwwww      x                      dropdown           "zzzzzzzzzzzzzzzzzzzzzz
+                                   wwwwwwwwwwwwwwwwwwwwww                    zzzzzzzzzzzzzzzzz" = y
 
 x
   read    pressed)");

@@ -132,10 +132,12 @@ private slots:
         QCOMPARE(sealValue(state), QVariant(true));
         // By hand: values in the order of the entries, and words that nothing writes with.
         const auto known = stateFromJson(
-            R"({"groups": {"get p": {"values": [1, true], "writes": {"set q": [3]}}}})");
+            R"({"groups": {"get p": {"values": [1, true], "writes": {"set q": [3]}},
+                           "get r": {"values": [1], "writes": {"set r": [0]}}}})");
         state = deviceFromMenu(files.paths(), *known, {});
         QCOMPARE(read(state, "get p"), QByteArray(R"([1,true,"value 3"])"));
-        QVERIFY(!acceptWrite(state, "set q", { 1, true, "x" }));
+        QVERIFY(
+            !acceptWrite(state, "set q", { 1, true, "x" }) && !acceptWrite(state, "set r", { 1 }));
     }
 
     void refusesWhatDoesNotFit()
