@@ -129,10 +129,8 @@ private slots:
     {
         Session session;
         // Bash passes the mask on to what it runs, other shells clear it.
-        QFile tool(session.device.paths().backendTool);
-        QVERIFY(tool.open(QIODevice::WriteOnly)
-            && tool.write("#!/bin/bash\ngrep SigBlk /proc/self/status > \"${0%/*}/mask\"\n") > 0);
-        tool.close();
+        writeFile(session.device.paths().backendTool,
+            "#!/bin/bash\ngrep SigBlk /proc/self/status > \"${0%/*}/mask\"\n");
         QVERIFY(session.startBy("exec env --block-signal=TERM \"$@\"") && session.hasTitle());
         QCOMPARE(readFile(session.device.paths().webRoot + "/mask").trimmed(),
             "SigBlk:\t" + QByteArray::number(1 << (SIGTERM - 1), 16).rightJustified(16, '0'));

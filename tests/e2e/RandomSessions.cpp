@@ -80,13 +80,11 @@ private slots:
         const int ownDescriptors = descriptors();
         const int steps = setting("DRAVIKON_TEST_KEYS", 150);
         QByteArray fault = "none";
-        QFile faultFile(session.device.paths().webRoot + "/fault");
         for (int step = 0; step < steps; ++step) {
             switch (random.bounded(40)) {
             case 0:
                 fault = oneOf(faults, random);
-                QVERIFY(faultFile.open(QIODevice::WriteOnly) && faultFile.write(fault) > 0);
-                faultFile.close();
+                writeFile(session.device.paths().webRoot + "/fault", fault);
                 session.signal(SIGWINCH);
                 break;
             case 1:

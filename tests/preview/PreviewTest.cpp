@@ -2,6 +2,7 @@
 #include "check/WriteBack.h"
 #include "json/JsonReader.h"
 #include "preview/DeviceState.h"
+#include "preview/FieldInterfaces.h"
 #include "preview/MenuValues.h"
 #include "preview/SimulatedDevice.h"
 #include "tests/support/FakeDevice.h"
@@ -133,7 +134,7 @@ private slots:
         // By hand: values in the order of the entries, and words that nothing writes with.
         const auto known = stateFromJson(
             R"({"groups": {"get p": {"values": [1, true], "writes": {"set q": [3]}},
-                           "get r": {"values": [1], "writes": {"set r": [0]}}}})");
+                           "get r": {"values": [1], "writes": {"set r": [1]}}}})");
         state = deviceFromMenu(files.paths(), *known, {});
         QCOMPARE(read(state, "get p"), QByteArray(R"([1,true,"value 3"])"));
         QVERIFY(
@@ -214,6 +215,19 @@ private slots:
         QCOMPARE(sealValue(state), QVariant(false));
         QVERIFY(acceptWrite(state, "set seal", { true }));
         QCOMPARE(sealValue(state), QVariant(true));
+    }
+
+    void movesWhatAnInterfaceMeasures()
+    {
+        DeviceState state = *stateFromJson(R"({"interfaces": {"X": {"query": "get", "drift": [0, 2],
+            "answer": [["1", [9223372036854775806, 0, 2.5]]]}}})");
+        QVERIFY(!switchInterface(state, { "X", 1 }));
+        for (const QByteArray numbers : { "9223372036854775806,0,2.5", "9223372036854775806,0,2.5",
+                 "9223372036854775807,0,2.6", "9223372036854775807,0,2.7" }) {
+            const QByteArray answer = deviceJson(interfaceAnswer(state, "get", ""));
+            QCOMPARE(answer, "[[\"1\",[" + numbers + "]]]");
+            QVERIFY(switchInterface(state, { "X", true })); // the first answer was before it
+        }
     }
 
     void documentsItsState()

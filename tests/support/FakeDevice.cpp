@@ -1,18 +1,8 @@
 #include "tests/support/FakeDevice.h"
 
+#include "tests/support/Files.h"
+
 #include <QDir>
-#include <QFile>
-
-namespace {
-
-void writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("cannot write %s", qPrintable(path));
-}
-
-} // namespace
 
 FakeDevice::FakeDevice()
     : devicePaths { directory.path(), directory.filePath("scripts/settings.js"),

@@ -1,4 +1,4 @@
-// Files that a test reads.
+// Files that a test reads and writes.
 #pragma once
 
 #include "platform/FileContent.h"
@@ -10,6 +10,13 @@ inline QByteArray readFile(const QString &path)
     if (!content)
         qFatal("cannot read %s", qPrintable(path));
     return *content;
+}
+
+inline void writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(path));
 }
 
 /// Of a file of the sources, some of which the tests compare with what the programs do.
