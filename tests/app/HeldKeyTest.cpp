@@ -40,7 +40,7 @@ class HeldKeyTest : public QObject {
     static void wait(TerminalGui &gui, SimulatedLine &line, qint64 endUs)
     {
         qint64 waitMs = gui.shownScreen().beforeWait(false);
-        while (waitMs >= 0 && line.nowUs + waitMs * 1000 < endUs) {
+        while (waitMs != -1 && line.nowUs + waitMs * 1000 < endUs) {
             line.nowUs += waitMs * 1000;
             waitMs = gui.shownScreen().beforeWait(false);
         }

@@ -11,7 +11,8 @@ private slots:
     {
         FakeDevice device;
         device.setScreens(
-            R"([{ css: 'r', 'ajax-read': 'never', screens: [{ css: 'a' }, { css: 'a' },
+            R"([{ css: 'btnParameterTruckSetup', 'ajax-read': 'at start', screens: [{ css: 'a' }, { css: 'a' },
+            { i18n: 'truck_setup_compartments', remote: 0 },
             { css: 'tanks' }, { css: 'h', remote: 0 }, { i18n: 'x', inputType: 'button', 'ajax-read': 'pressed' }] },
             { css: 'tanks', type: 'compBtnA', remote: 1, screens: [] },
             { css: 'tanksModifyDo', 'ajax-read': 'get', 'ajax-write': 'set', screens: [
@@ -38,6 +39,8 @@ tanks > compartment (tanksModifyDo)
 
 x
   read    pressed)");
+        QVERIFY(lines.contains(
+            "  answer  the values of btnParameterTruckSetup; value 3 is the number"));
         QVERIFY(device.takeCalls().isEmpty());
     }
 };

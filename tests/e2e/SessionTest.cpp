@@ -133,16 +133,6 @@ private slots:
         row("paste", goodTool, edit + "5~O\n", R"(set|truck|["Emma5~O",true])");
     }
 
-    void endAmongKeys()
-    {
-        for (const QByteArray &keys : { Key::down + 'Q' + Key::enter,
-                 keysToEditField.join() + Key::interrupt + Key::enter }) {
-            Session session;
-            QVERIFY(session.start());
-            QCOMPARE(session.endBy(keys), endedWell);
-        }
-    }
-
     // Each key acts, but few of their frames are written.
     void burst()
     {

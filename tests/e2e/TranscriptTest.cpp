@@ -72,10 +72,9 @@ bool check(const QString &path, bool rewrites)
     }
     if (!player.isStarted())
         print(path + ": no transcript, nothing was started");
-    const QByteArray text = written.join('\n').toUtf8();
-    QFile file(path);
-    return player.isStarted()
-        && (!rewrites || (file.open(QIODevice::WriteOnly) && file.write(text) == text.size()));
+    else if (rewrites)
+        writeFile(path, written.join('\n').toUtf8());
+    return player.isStarted();
 }
 
 } // namespace

@@ -56,7 +56,7 @@ private slots:
         row("loading plans", "css: 'btnLoadingplans'", "", true);
     }
 
-    void editable()
+    void kinds()
     {
         setItem("inputType: 'input'"); // of the web interface
         QVERIFY(!menu.isEditable(*item));
@@ -64,10 +64,6 @@ private slots:
         QVERIFY(menu.isEditable(*item));
         item->addChild({}, {}, -1);
         QVERIFY(!menu.isEditable(*item));
-    }
-
-    void interfaceOfAnotherType()
-    {
         setItem("css: 'btnServiceDiagnoseAsInterfaces', type: 'btn'");
         QCOMPARE(menu.diagnoseScreen(*item), NoInterface);
     }
