@@ -95,6 +95,18 @@ private slots:
         row("PgDn and PgUp there", openInterfaces, thereAndBack, ":|SPD IF: 1/4");
     }
 
+    void showsKeysThatComeWithoutAPause()
+    {
+        SimulatedLine line;
+        Screen screen(line);
+        screen.show({ { 0, "text" } }, 1, {});
+        for (const int written : { 0, 1 }) {
+            line.nowUs = 99999 + written;
+            screen.beforeWait(true);
+            QCOMPARE(line.writes, written);
+        }
+    }
+
     // A write to it would block, and no key would end the session.
     void writesNothingToAStoppedLine()
     {

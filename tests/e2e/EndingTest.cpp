@@ -176,11 +176,9 @@ private slots:
         const int idleMs = int(PtySession::scaled(1000));
         Session session;
         QVERIFY(session.start(idleMs));
-        QElapsedTimer sinceStart;
-        sinceStart.start();
-        QVERIFY(session.waitFor([&] { return sinceStart.elapsed() >= idleMs / 2; }));
+        QVERIFY(session.waitFor([&] { return session.sinceStart.elapsed() >= idleMs / 2; }));
         QVERIFY(session.press({ Key::down }));
-        QVERIFY(session.waitFor([&] { return sinceStart.elapsed() >= idleMs * 5 / 4; }));
+        QVERIFY(session.waitFor([&] { return session.sinceStart.elapsed() >= idleMs * 5 / 4; }));
         QCOMPARE(session.status(), (ExitStatus { ExitStatus::Running, 0 }));
         QCOMPARE(session.waitForExit(), endedWell);
     }

@@ -1,5 +1,4 @@
-// What an item's definition, and the entry that refers to it, say about the item, as far as no
-// transcript shows it.
+// What an item's definition, and the entry that refers to it, say about the item.
 #include "menu/TreeViewItemHandler.h"
 #include "tests/support/Rows.h"
 
