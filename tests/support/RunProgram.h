@@ -1,10 +1,9 @@
 // Runs a program to its end without a terminal, and ends one on a terminal.
 #pragma once
 
+#include "backend/BackendTool.h"
 #include "terminal/Keys.h"
 #include "terminal/PtySession.h"
-
-#include <QProcess>
 
 #include <csignal>
 
@@ -16,12 +15,11 @@ struct ProgramResult {
 
 inline ProgramResult runProgram(const QString &program, const QStringList &arguments)
 {
-    QProcess process;
-    process.start(program, arguments);
-    const bool hasEnded = process.waitForFinished(int(PtySession::scaled(30000)))
-        && process.exitStatus() == QProcess::NormalExit;
-    return { hasEnded ? process.exitCode() : -1, QString::fromUtf8(process.readAllStandardOutput()),
-        QString::fromUtf8(process.readAllStandardError()) };
+    // Not by QProcess: under Debian 12's emulator it does not notice the end of a program.
+    const ToolRun run =
+        BackendTool::observedRun(program, arguments, int(PtySession::scaled(30000)));
+    return { run.end.kind == ToolEnd::Exited ? run.end.number : -1, QString::fromUtf8(run.output),
+        QString::fromUtf8(run.errors) };
 }
 
 /// Runs a command of the shell.
