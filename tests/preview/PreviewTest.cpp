@@ -224,8 +224,7 @@ private slots:
         QVERIFY(!switchInterface(state, { "X", 1 }));
         for (const QByteArray numbers : { "9223372036854775806,0,2.5", "9223372036854775806,0,2.5",
                  "9223372036854775807,0,2.6", "9223372036854775807,0,2.7" }) {
-            const QByteArray answer = deviceJson(interfaceAnswer(state, "get", ""));
-            QCOMPARE(answer, "[[\"1\",[" + numbers + "]]]");
+            QCOMPARE(deviceJson(interfaceAnswer(state, "get", "")), "[[\"1\",[" + numbers + "]]]");
             QVERIFY(switchInterface(state, { "X", true })); // the first answer was before it
         }
     }
