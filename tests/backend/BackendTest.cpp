@@ -87,30 +87,30 @@ private slots:
         row("ends, and leaves a child", "sleep 60 & echo $$ $!", 30000, true);
     }
 
-    // The terminal's Ctrl-Z reaches neither the tool nor, while it is started, the console for it.
+    // The terminal's keys are not the tool's, also not Ctrl-Z while it is started.
     void runsToolsInSessionsOfTheirOwn()
     {
         device.setTool("read -r process name state parent group session terminal rest"
-                       " < /proc/$$/stat; echo $((session - $$)) $((group - $$)) $terminal");
-        QCOMPARE(handler.scriptHelper().run({ word }), QByteArray("0 0 0\n"));
+                       " < /proc/$$/stat; echo $((session - $$)) $((group - $$)) $terminal;"
+                       " [ /dev/fd/0 -ef /proc/$PPID/fd/0 ] || echo own input");
+        QCOMPARE(handler.scriptHelper().run({ word }), QByteArray("0 0 0\nown input\n"));
     }
 
     void takesAnswersUpTo16MiB()
     {
-        device.setTool("head -c $1 /dev/zero");
+        device.setTool("exec head -c $1 /dev/zero");
         QCOMPARE(handler.scriptHelper().run({ "16777216" }).size(), 16777216);
         QCOMPARE(handler.scriptHelper().run({ "16777217" }).size(), 0);
     }
 
     void startsToolsWithUsualSignals()
     {
-        device.setTool("grep SigIgn /proc/self/status");
         signal(SIGCHLD, SIG_IGN);
         signal(SIGPIPE, SIG_IGN);
-        const QByteArray answer = handler.scriptHelper().run({ word }).trimmed();
+        const QByteArray answer = BackendTool::run("grep", { "SigIgn", "/proc/self/status" });
         signal(SIGCHLD, SIG_DFL);
         bool isMask = false;
-        const quint64 ignored = answer.right(16).toULongLong(&isMask, 16);
+        const quint64 ignored = answer.trimmed().right(16).toULongLong(&isMask, 16);
         QVERIFY2(isMask, answer.constData());
         QCOMPARE(ignored & (1ULL << (SIGCHLD - 1) | 1ULL << (SIGPIPE - 1)), 0ULL);
     }
